@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include <orvane/geometry/mesh.h>
+
+#include <orvane/base/classdesc.h>
+#include <orvane/base/log.h>
+#include <orvane/base/stream.h>
+#include <orvane/geometry/geometry.h>
+#include <orvane/geometry/placement.h>
+
+#include <cmath>
+
+namespace orvane {
+
+namespace {
+
+bool isIndex(int index, int count, const char *what)
+{
+    if (index >= 0 && index < count)
+        return true;
+    log(QStringLiteral("No %1 %2: the mesh has %3.")
+            .arg(QLatin1String(what))
+            .arg(index)
+            .arg(count));
+    return false;
+}
+
+// The angle at p between the directions to q and r, in radians; 0 for coincident points.
+float cornerAngle(const Vector &p, const Vector &q, const Vector &r)
+{
+    const Vector a = q - p;
+    const Vector b = r - p;
+    return std::atan2((a & b).Length(), Dot(a, b));
+}
+
+} // namespace
+
+Vector Mesh::WorldVertexPosition(int vertex) const
+{
+    const Vector local = VertexPosition(vertex);
+    return m_holder ? m_holder->Placement()->ToWorld(local) : local;
+}
+
+Vector Mesh::WorldVertexNormal(int vertex) const
+{
+    const Vector local = VertexNormal(vertex);
+    return m_holder ? m_holder->Placement()->NormalToWorld(local) : Normalized(local);
+}
+
+Vector Mesh::TriangleVertexPosition(int face, int corner) const
+{
+    return cornerPosition(Triangles, face, corner);
+}
+
+Vector Mesh::QuadVertexPosition(int face, int corner) const
+{
+    return cornerPosition(Quads, face, corner);
+}
+
+Vector Mesh::cornerPosition(FaceType type, int face, int corner) const
+{
+    const int vertex = type == Type() ? VertexIndex(face, corner) : -1;
+    return vertex < 0 ? Vector() : WorldVertexPosition(vertex);
+}
+
+void Mesh::SetFaceCount(int count)
+{
+    resizeFaces(count);
+}
+
+void Mesh::SetVertexCount(int count)
+{
+    m_positions.resize(qMax(0, count));
+    m_normals.resize(m_positions.size());
+    setVertexLimits(m_positions.size(), m_uvs.size());
+}
+
+void Mesh::SetFakeTriangleCount(int count)
+{
+    reserveFakes(count);
+}
+
+void Mesh::SetUVCount(int count)
+{
+    m_uvs.resize(qMax(0, count));
+    setVertexLimits(m_positions.size(), m_uvs.size());
+}
+
+void Mesh::SetVertexPosition(int vertex, const Vector &position)
+{
+    if (isIndex(vertex, VertexCount(), "vertex"))
+        m_positions[vertex] = position;
+}
+
+void Mesh::SetVertexNormal(int vertex, const Vector &normal)
+{
+    if (isIndex(vertex, VertexCount(), "vertex"))
+        m_normals[vertex] = normal;
+}
+
+void Mesh::SetTextureCoordinate(int uv, const UV &coordinate)
+{
+    if (isIndex(uv, UVCount(), "texture coordinate"))
+        m_uvs[uv] = coordinate;
+}
+
+void Mesh::RecomputeNormals(bool keepVertexNormals)
+{
+    m_faceNormals.resize(FaceCount());
+    for (int face = 0; face < FaceCount(); ++face) {
+        const Vector p0 = VertexPosition(VertexIndex(face, 0));
+        const Vector p1 = VertexPosition(VertexIndex(face, 1));
+        const Vector p2 = VertexPosition(VertexIndex(face, 2));
+        // The diagonals of a quad see all four corners, bent or not.
+        const Vector area = IsQuads() ? (p2 - p0) & (VertexPosition(VertexIndex(face, 3)) - p1)
+                                      : (p1 - p0) & (p2 - p0);
+        m_faceNormals[face] = Normalized(area);
+    }
+    if (keepVertexNormals)
+        return;
+    m_normals.fill(Vector(), VertexCount());
+    for (int face = 0; face < FaceCount(); ++face)
+        addCornerAngles(face);
+    for (Vector &normal : m_normals)
+        normal.Normalize();
+}
+
+void Mesh::addCornerAngles(int face)
+{
+    const int corners = CornersPerFace();
+    for (int i = 0; i < corners; ++i) {
+        const int vertex = VertexIndex(face, i);
+        if (vertex >= VertexCount())
+            continue;
+        const Vector next = VertexPosition(VertexIndex(face, (i + 1) % corners));
+        const Vector previous = VertexPosition(VertexIndex(face, (i + corners - 1) % corners));
+        m_normals[vertex] += m_faceNormals[face] * cornerAngle(VertexPosition(vertex), next, previous);
+    }
+}
+
+void Mesh::Update(bool topology, int)
+{
+    m_bounds = AxisAlignedBoundingBox();
+    for (const Vector &position : qAsConst(m_positions))
+        m_bounds.Extend(position);
+    if (!topology)
+        return;
+    m_polygons = polygonsOf(*this);
+    m_edges = edgesOf(m_polygons, VertexCount());
+}
+
+void Mesh::SetChanged(bool changed)
+{
+    m_changed = changed;
+}
+
+void Mesh::Serialize(Stream &stream)
+{
+    Node::Serialize(stream);
+    int type = m_type;
+    stream.Transfer(type);
+    stream.Transfer(m_positions);
+    stream.Transfer(m_normals);
+    stream.Transfer(m_uvs);
+    stream.Transfer(m_corners);
+    stream.Transfer(m_fake);
+    stream.Transfer(m_uvCorners);
+    if (stream.IsWriting())
+        return;
+    m_type = type == Quads ? Quads : Triangles;
+    m_normals.resize(m_positions.size());
+    setVertexLimits(m_positions.size(), m_uvs.size());
+    if (!cornersInRange()) {
+        log(QStringLiteral("The faces of mesh \"%1\" do not fit its vertices and were dropped.")
+                .arg(Name()));
+        m_corners.clear();
+        m_fake.clear();
+        m_uvCorners.clear();
+    }
+    RecomputeNormals(true);
+    Update(true, 0);
+}
+
+bool Mesh::cornersInRange() const
+{
+    const auto all = [](const QVector<int> &indices, int low, int high) {
+        for (int index : indices) {
+            if (index < low || index >= high)
+                return false;
+        }
+        return true;
+    };
+    const bool lengthsAgree = m_corners.size() % CornersPerFace() == 0
+                              && (m_fake.isEmpty() || m_fake.size() == FaceCount())
+                              && (m_fake.isEmpty() || !m_fake[0])
+                              && (m_uvCorners.isEmpty() || m_uvCorners.size() == m_corners.size());
+    return lengthsAgree && all(m_corners, 0, VertexCount()) && all(m_uvCorners, -1, UVCount());
+}
+
+const ClassDesc *Mesh::RuntimeClass() const
+{
+    return StaticClass();
+}
+
+const ClassDesc *Mesh::StaticClass()
+{
+    static const ClassDesc desc(Node::StaticClass(), Node::StaticClass(), "Mesh", "Mesh", nullptr, 0,
+                                0);
+    return &desc;
+}
+
+} // namespace orvane

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include <orvane/geometry/orvanecurve.h>
+
+#include <orvane/base/classdesc.h>
+#include <orvane/base/stream.h>
+#include <orvane/geometry/geometry.h>
+#include <orvane/geometry/mesh.h>
+
+namespace orvane {
+
+namespace {
+
+const float ClosingGap = 0.001f; // fraction of the closing stretch
+
+} // namespace
+
+int OrvaneCurve::DrawnPointCount() const
+{
+    return Closed() && PointCount() > 1 ? PointCount() - 1 : PointCount();
+}
+
+Vector OrvaneCurve::ClosingPosition() const
+{
+    const Vector first = m_points.first().position;
+    return first + (m_points.last().position - first) * ClosingGap;
+}
+
+orvane::Geometry *OrvaneCurve::Geometry() const
+{
+    for (const CurvePoint &point : m_points) {
+        if (const Mesh *mesh = point.surfacePoint.Mesh())
+            return mesh->Holder();
+    }
+    return nullptr;
+}
+
+bool OrvaneCurve::IsUsable() const
+{
+    return !IsHidden() && PointCount() >= 2;
+}
+
+void OrvaneCurve::Serialize(Stream &stream)
+{
+    CurveBase::Serialize(stream);
+    stream.Transfer(m_points);
+}
+
+const ClassDesc *OrvaneCurve::RuntimeClass() const
+{
+    return StaticClass();
+}
+
+const ClassDesc *OrvaneCurve::StaticClass()
+{
+    static const ClassDesc desc(CurveBase::StaticClass(), CurveBase::StaticClass(), "OrvaneCurve",
+                                "Curve", createInstances<OrvaneCurve>, 0, 0);
+    return &desc;
+}
+
+namespace {
+const ClassDesc *const Registered = OrvaneCurve::StaticClass();
+} // namespace
+
+} // namespace orvane

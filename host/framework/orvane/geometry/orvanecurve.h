@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <orvane/geometry/curvebase.h>
+#include <orvane/geometry/curvepoint.h>
+
+#include <QVector>
+
+namespace orvane {
+
+//! A curve of straight stretches between points.
+//! A closed one ends where it began: its last point, the closing point, lies a thousandth of the
+//! closing stretch short of the first, so that this stretch is like any other and the seam never
+//! meets itself. Readers and tools add that point, writers leave it out.
+class ORVANE_EXPORT OrvaneCurve : public CurveBase
+{
+public:
+    int PointCount() const { return m_points.size(); }
+    //! The default point when out of range.
+    CurvePoint PointAt(int index) const { return m_points.value(index); }
+    const QVector<CurvePoint> &Points() const { return m_points; }
+    //! How many points were drawn: all but the closing point.
+    int DrawnPointCount() const;
+    //! Where the closing point of the points so far belongs, in world space. At least one point.
+    Vector ClosingPosition() const;
+
+    void SetPoints(const QVector<CurvePoint> &points) { m_points = points; }
+    void AppendPoint(const CurvePoint &point) { m_points.append(point); }
+
+    orvane::Geometry *Geometry() const override;
+    bool IsUsable() const override;
+    void Serialize(Stream &stream) override;
+    const ClassDesc *RuntimeClass() const override;
+    static const ClassDesc *StaticClass();
+
+private:
+    QVector<CurvePoint> m_points;
+};
+
+} // namespace orvane

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <orvane/geometry/topology.h>
+
+#include <QVector>
+
+namespace orvane {
+
+class Geometry;
+class Mesh;
+class Node;
+class OrvaneCurve;
+
+//! The geometries and curves people work on, in the order they came. It owns what is in it.
+class ORVANE_EXPORT Scene
+{
+public:
+    Scene() = default;
+    ~Scene();
+    Scene(const Scene &) = delete;
+    Scene &operator=(const Scene &) = delete;
+
+    int NodeCount() const { return m_nodes.size(); }
+    //! Null when out of range.
+    Node *NodeAt(int index) const { return m_nodes.value(index); }
+    bool Contains(const Node *node) const;
+    //! The geometries among the nodes, in order.
+    QVector<Geometry *> Geometries() const;
+    //! The geometry that was made active last of those still here; null when none was.
+    Geometry *ActiveGeometry() const;
+    //! Has it changed since it was last saved?
+    bool IsChanged() const { return m_changed; }
+
+    //! A new mesh, owned by the caller until a geometry takes it as a level.
+    Mesh *CreateMesh(Topology::FaceType type) const;
+
+    //! Takes the geometry over, at the end of the list. Null, or one that is here, is ignored.
+    void AddGeometry(Geometry *geometry);
+    //! Gives the geometry back to the caller, not destroyed. Its nodes keep their numbers.
+    void RemoveGeometry(Geometry *geometry);
+    void AddCurve(OrvaneCurve *curve);
+    void RemoveCurve(OrvaneCurve *curve);
+    //! Destroys all that is in it.
+    void Clear();
+
+    //! A geometry that is not in the scene, or null, is ignored.
+    void SetActiveGeometry(Geometry *geometry);
+    void SetChanged(bool changed) { m_changed = changed; }
+
+private:
+    QVector<Node *> m_nodes;             // owned
+    QVector<Geometry *> m_activeHistory; // the latest last, each once
+    bool m_changed = false;
+};
+
+} // namespace orvane

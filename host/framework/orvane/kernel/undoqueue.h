@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <orvane/math/export.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+namespace orvane {
+
+class Operation;
+
+//! The operations that can be undone and redone. It keeps bytes, not objects: each undo or redo
+//! makes a fresh object through its class descriptor, reads it, runs it and writes it back, so
+//! operations of any class can be kept without the host knowing them.
+class ORVANE_EXPORT UndoQueue
+{
+public:
+    //! 100 steps, then 1 GiB; the latest step always stays.
+    static const int MaximumSteps;
+    static const qint64 MaximumBytes;
+
+    bool CanUndo() const { return m_position > 0; }
+    bool CanRedo() const { return m_position < m_steps.size(); }
+    int StepCount() const { return m_steps.size(); }
+    //! What undo or redo would undo or redo, for a menu: the class's display text in the user's
+    //! language, empty when there is nothing.
+    QString UndoText() const;
+    QString RedoText() const;
+
+    //! Keeps an operation that has just run, and forgets what could have been redone.
+    //! merge: as a part of the latest step, if there is one.
+    void Push(Operation *operation, bool merge);
+    //! Runs the latest step backwards, or the next one forwards. False when there is none or an
+    //! operation answers false; the step then stays where it is.
+    bool Undo();
+    bool Redo();
+    void Clear();
+
+private:
+    //! One operation: its class and what Serialize wrote.
+    struct Record
+    {
+        QString className;
+        QByteArray bytes;
+    };
+    using Step = QVector<Record>;
+
+    static QString textOf(const Step &step);
+    static bool run(Record &record);
+    void enforceLimits();
+
+    QVector<Step> m_steps;
+    int m_position = 0; // steps before it are done, from it on undone
+};
+
+} // namespace orvane
