@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "graph/intersectionnode.h"
+
+IntersectionNode::~IntersectionNode() = default;
+
+void IntersectionNode::setSample(const NodeSample &sample)
+{
+    curvePoint = sample.curvePoint;
+    normal = sample.normal;
+    vertexIndex = sample.vertexIndex;
+}
+
+int IntersectionNode::indexOfNeighbour(const IntersectionNode *node) const
+{
+    return neighbours.indexOf(const_cast<IntersectionNode *>(node));
+}
+
+bool IntersectionNode::addNeighbour(IntersectionNode *node)
+{
+    if (!node || node == this)
+        return false;
+    if (!hasNeighbour(node)) {
+        neighbours.append(node);
+        outgoingUsed.append(false);
+        incomingUsed.append(false);
+    }
+    if (!node->hasNeighbour(this))
+        node->addNeighbour(this);
+    return true;
+}
+
+bool IntersectionNode::removeNeighbourAt(int i)
+{
+    if (i < 0 || i >= neighbours.size())
+        return false;
+    IntersectionNode *removed = neighbours.takeAt(i);
+    outgoingUsed.removeAt(i);
+    incomingUsed.removeAt(i);
+    const int back = removed->indexOfNeighbour(this);
+    if (back >= 0)
+        removed->removeNeighbourAt(back);
+    return true;
+}
+
+void IntersectionNode::unlinkAll()
+{
+    for (int i = neighbours.size() - 1; i >= 0; --i) {
+        if (neighbours[i])
+            removeNeighbourAt(indexOfNeighbour(neighbours[i]));
+    }
+}
+
+bool IntersectionNode::merge(IntersectionNode *other)
+{
+    if (!other)
+        return false;
+    const QList<IntersectionNode *> theirs = other->neighbours; // linking back edits their lists
+    for (IntersectionNode *node : theirs) {
+        if (node)
+            addNeighbour(node);
+    }
+    for (orvane::OrvaneCurve *curve : qAsConst(other->curves))
+        addCurve(curve);
+    return true;
+}
+
+int IntersectionNode::indexOfCurve(const orvane::OrvaneCurve *curve) const
+{
+    return curve ? curves.indexOf(const_cast<orvane::OrvaneCurve *>(curve)) : -1;
+}
+
+bool IntersectionNode::addCurve(orvane::OrvaneCurve *curve)
+{
+    if (!curve || hasCurve(curve))
+        return false;
+    curves.append(curve);
+    return true;
+}
+
+bool IntersectionNode::removeCurveAt(int i)
+{
+    if (i < 0 || i >= curves.size())
+        return false;
+    curves.removeAt(i);
+    return true;
+}
+
+bool IntersectionNode::removeCurve(orvane::OrvaneCurve *curve)
+{
+    return removeCurveAt(indexOfCurve(curve));
+}
