@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVector>
+
+class IntersectionNode;
+class MeshBuilder;
+
+//! The cells of a piece that have no face, by what kept the face from being made.
+struct HoleCounts
+{
+    int total() const { return overLimit + dangling + unclosed; }
+
+    int overLimit = 0; // more edges than the limit
+    int dangling = 0;  // loose ends at its corners lead every walk astray
+    int unclosed = 0;  // no walk comes back to its start as a plain ring
+};
+
+//! Follows every left-turning cycle of a traced piece and counts the inner ones that gave no face.
+//! nodes: all nodes of the piece, by vertex number, neighbours in angular order.
+//! Linear in the edges where nodes have a bounded number of neighbours.
+HoleCounts countHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,
+                      int maxEdges);
