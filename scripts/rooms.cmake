@@ -73,5 +73,5 @@ function(orvane_add_test name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUILLMESH_MODELS=${PROJECT_SOURCE_DIR}/../shared/models")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUILLMESH_MODELS=${PROJECT_SOURCE_DIR}/../shared/models;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
 endfunction()

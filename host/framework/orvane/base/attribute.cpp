@@ -52,7 +52,7 @@ void Attribute::NotifyChanged()
 {
     if (m_owner)
         m_owner->OnNodeEvent(*this, NodeEventValueChanged);
-    const QVector<Attribute *> followers = m_followers; // an answer may connect or disconnect
+    const QVector<Attribute *> followers = m_followers; // an answer may disconnect or destroy one
     for (Attribute *follower : followers) {
         if (m_followers.contains(follower) && follower->TakeValue(*this))
             follower->NotifyChanged();

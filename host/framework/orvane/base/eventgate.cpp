@@ -7,10 +7,11 @@ void EventGate::Raise()
 {
     if (Owner())
         Owner()->OnEvent(*this);
-    const QVector<Attribute *> followers = Followers(); // an answer may connect or disconnect
+    const QVector<Attribute *> followers = Followers(); // an answer may disconnect or destroy one
     for (Attribute *follower : followers) {
-        auto *gate = dynamic_cast<EventGate *>(follower);
-        if (gate && Followers().contains(follower))
+        if (!Followers().contains(follower))
+            continue;
+        if (auto *gate = dynamic_cast<EventGate *>(follower))
             gate->Raise();
     }
 }

@@ -133,7 +133,8 @@ void Mesh::addCornerAngles(int face)
             continue;
         const Vector next = VertexPosition(VertexIndex(face, (i + 1) % corners));
         const Vector previous = VertexPosition(VertexIndex(face, (i + corners - 1) % corners));
-        m_normals[vertex] += m_faceNormals[face] * cornerAngle(VertexPosition(vertex), next, previous);
+        m_normals[vertex] +=
+            m_faceNormals[face] * cornerAngle(VertexPosition(vertex), next, previous);
     }
 }
 
@@ -203,8 +204,8 @@ const ClassDesc *Mesh::RuntimeClass() const
 
 const ClassDesc *Mesh::StaticClass()
 {
-    static const ClassDesc desc(Node::StaticClass(), Node::StaticClass(), "Mesh", "Mesh", nullptr, 0,
-                                0);
+    static const ClassDesc desc(Node::StaticClass(), Node::StaticClass(), "Mesh", "Mesh", nullptr,
+                                0, 0);
     return &desc;
 }
 

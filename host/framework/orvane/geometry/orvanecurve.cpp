@@ -6,6 +6,8 @@
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/mesh.h>
 
+#include <cmath>
+
 namespace orvane {
 
 namespace {
@@ -22,7 +24,13 @@ int OrvaneCurve::DrawnPointCount() const
 Vector OrvaneCurve::ClosingPosition() const
 {
     const Vector first = m_points.first().position;
-    return first + (m_points.last().position - first) * ClosingGap;
+    const Vector last = m_points.last().position;
+    const Vector place = first + (last - first) * ClosingGap;
+    if (place != first)
+        return place;
+    // A stretch so short, so far from the origin, that rounding joins the two.
+    return {std::nextafter(first.x, last.x), std::nextafter(first.y, last.y),
+            std::nextafter(first.z, last.z)};
 }
 
 orvane::Geometry *OrvaneCurve::Geometry() const

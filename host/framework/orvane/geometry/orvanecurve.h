@@ -21,7 +21,8 @@ public:
     const QVector<CurvePoint> &Points() const { return m_points; }
     //! How many points were drawn: all but the closing point.
     int DrawnPointCount() const;
-    //! Where the closing point of the points so far belongs, in world space. At least one point.
+    //! Where the closing point of the points so far (at least one) belongs, in world space. On the
+    //! first point only when the last point is.
     Vector ClosingPosition() const;
 
     void SetPoints(const QVector<CurvePoint> &points) { m_points = points; }

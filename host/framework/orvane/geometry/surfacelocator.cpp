@@ -32,8 +32,8 @@ float fraction(double part, double whole)
     return whole > 0.0 ? float(part / whole) : 0.0f;
 }
 
-// Doubles, because what decides the region is a difference of products: a place far off a small
-// triangle would lose it in floats.
+// Doubles, because what decides the region is a difference of products: over a narrow triangle
+// floats would lose it.
 struct Step
 {
     Step(const Vector &from, const Vector &to)
@@ -209,12 +209,13 @@ SurfacePoint SurfaceLocator::ClosestPoint(const Vector &place, float maxDistance
     RTCPointQueryContext context;
     rtcInitPointQueryContext(&context);
     rtcPointQuery(m_scene->scene, &query, &context, visitPrimitive, &search);
-    return search.primitive < 0 ? SurfacePoint() : surfacePointOf(m_mesh, search.primitive, search.found);
+    return search.primitive < 0 ? SurfacePoint()
+                                : surfacePointOf(m_mesh, search.primitive, search.found);
 }
 
 SurfacePoint SurfaceLocator::Pick(const Vector &origin, const Vector &direction) const
 {
-    if (!m_scene->scene || !origin.IsFinite() || !direction.IsFinite() || direction == Vector())
+    if (!m_scene->scene || !origin.IsFinite() || !direction.IsFinite())
         return {};
     RTCRayHit hit = {};
     hit.ray.org_x = origin.x;

@@ -64,7 +64,7 @@ void UndoQueue::enforceLimits()
     for (int i = m_steps.size() - 1; i >= 0; --i) {
         for (const Record &record : qAsConst(m_steps[i]))
             bytes += record.bytes.size();
-        if (kept > 0 && (kept == MaximumSteps || bytes > MaximumBytes))
+        if (kept > 0 && (kept == MaximumSteps || bytes > m_maximumBytes))
             break;
         ++kept;
     }

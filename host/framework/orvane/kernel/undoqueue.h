@@ -21,6 +21,8 @@ public:
     static const int MaximumSteps;
     static const qint64 MaximumBytes;
 
+    explicit UndoQueue(qint64 maximumBytes = MaximumBytes) : m_maximumBytes(maximumBytes) {}
+
     bool CanUndo() const { return m_position > 0; }
     bool CanRedo() const { return m_position < m_steps.size(); }
     int StepCount() const { return m_steps.size(); }
@@ -51,6 +53,7 @@ private:
     static bool run(Record &record);
     void enforceLimits();
 
+    qint64 m_maximumBytes;
     QVector<Step> m_steps;
     int m_position = 0; // steps before it are done, from it on undone
 };
