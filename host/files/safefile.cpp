@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "host/files/safefile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <limits>
+
+namespace orvane {
+
+namespace {
+
+bool refuse(const QString &path, const QString &text, QString *error)
+{
+    *error = aboutFile(path, text);
+    return false;
+}
+
+} // namespace
+
+QString aboutFile(const QString &path, const QString &text)
+{
+    return QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), text);
+}
+
+bool isPlaceForFile(const QString &path, QString *error)
+{
+    const QFileInfo info(path);
+    if (path.isEmpty() || info.fileName().isEmpty() || info.isDir())
+        return refuse(path, QStringLiteral("this is a folder; expected the name of a file."),
+                      error);
+    const QFileInfo folder(info.absolutePath());
+    const QString name = QDir::toNativeSeparators(info.path());
+    if (!folder.exists()) {
+        return refuse(
+            path, QStringLiteral("the folder %1 does not exist; expected one that does.").arg(name),
+            error);
+    }
+    if (!folder.isDir()) {
+        return refuse(path,
+                      QStringLiteral("%1 is a file; expected a folder to write into.").arg(name),
+                      error);
+    }
+    return true;
+}
+
+QString withoutFullStop(QString text)
+{
+    while (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
+
+bool readWhole(const QString &path, QByteArray *bytes, QString *error)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return refuse(path, QStringLiteral("no such file."), error);
+    if (!info.isFile())
+        return refuse(path, QStringLiteral("this is a folder or a device; expected a file."),
+                      error);
+    if (info.size() > std::numeric_limits<int>::max())
+        return refuse(path, QStringLiteral("the file is too large; expected less than 2 GiB."),
+                      error);
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        *bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return refuse(
+            path, QStringLiteral("it cannot be read: %1.").arg(withoutFullStop(file.errorString())),
+            error);
+    }
+    if (bytes->isEmpty())
+        return refuse(path, QStringLiteral("the file is empty."), error);
+    return true;
+}
+
+bool writeWhole(const QString &path, const QByteArray &bytes, QString *error)
+{
+    if (!isPlaceForFile(path, error))
+        return false;
+    QSaveFile file(path);
+    errno = 0;
+    // Without the flush commit would rename a file whose last bytes found no room.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()
+        && file.commit())
+        return true;
+    // The system's own word first: Qt has none for a disk that fills up during a flush.
+    const QString why = errno != 0 ? qt_error_string(errno) : file.errorString();
+    return refuse(path, QStringLiteral("it cannot be written: %1.").arg(withoutFullStop(why)),
+                  error);
+}
+
+} // namespace orvane
