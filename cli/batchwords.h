@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "operation/runreport.h"
+
+#include <QString>
+#include <QVector>
+
+//! "3 triangles, 240 quads, 5 of 5 corners"; index of counts: number of corners.
+QString facesInWords(const QVector<int> &facesByCorners);
+//! "7: 5 over the limit, 2 at loose ends"; "none".
+QString holesInWords(const HoleCounts &holes);
+//! Why the piece made no mesh; empty for one that did.
+QString pieceFailureInWords(const PieceReport &piece);
+QString placeInWords(const orvane::Vector &place);
+
+//! Sums over all pieces that made a mesh; holes over all pieces.
+QVector<int> totalFaces(const RunReport &run);
+HoleCounts totalHoles(const RunReport &run);

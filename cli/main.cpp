@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "cli/batchinterface.h"
+#include "cli/buildjob.h"
+#include "cli/commandline.h"
+#include "cli/dialoganswers.h"
+#include "cli/exitcode.h"
+#include "cli/smalljobs.h"
+#include "cli/terminal.h"
+
+#include <orvane/base/log.h>
+#include <orvane/kernel/kernel.h>
+#include <orvane/kernel/scene.h>
+
+#include <QApplication>
+
+#include <csignal>
+
+namespace {
+
+// What Qt finds worth saying about platforms and folders is for the log, not for the user.
+void toLog(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    orvane::log(message);
+}
+
+// Help goes to the output, a mistake to the error stream.
+int answer(const ParseResult &parsed)
+{
+    if (parsed.kind == ParseResult::ShowHelp) {
+        print(stdout, parsed.text);
+        return ExitDone;
+    }
+    printLine(stderr, QStringLiteral("quillmesh: ") + parsed.text);
+    return ExitWrongUsage;
+}
+
+int build(const QStringList &words, DialogAnswers &answers)
+{
+    BuildOptions options;
+    const ParseResult parsed = parseBuild(words, options);
+    if (parsed.kind != ParseResult::Run)
+        return answer(parsed);
+    answers.setAnswer(QStringLiteral("ValidateMeshFeedbackmDialog"),
+                      options.acceptFaults ? QStringLiteral("accept") : QStringLiteral("close"));
+    return BuildJob(options).run();
+}
+
+int check(const QStringList &words)
+{
+    QString mesh;
+    const ParseResult parsed = parseCheck(words, mesh);
+    return parsed.kind == ParseResult::Run ? runCheck(mesh) : answer(parsed);
+}
+
+int picture(const QStringList &words)
+{
+    PictureOptions options;
+    const ParseResult parsed = parsePicture(words, options);
+    return parsed.kind == ParseResult::Run ? runPicture(options) : answer(parsed);
+}
+
+int runCommand(const QStringList &words, DialogAnswers &answers)
+{
+    const QString command = words.value(0);
+    if (command == QLatin1String("build"))
+        return build(words.mid(1), answers);
+    if (command == QLatin1String("check"))
+        return check(words.mid(1));
+    if (command == QLatin1String("picture"))
+        return picture(words.mid(1));
+    if (command == QLatin1String("-h") || command == QLatin1String("--help"))
+        return answer({ParseResult::ShowHelp, programHelp()});
+    if (command == QLatin1String("-v") || command == QLatin1String("--version"))
+        return answer({ParseResult::ShowHelp,
+                       QStringLiteral("quillmesh %1\n").arg(qApp->applicationVersion())});
+    const QString help = QStringLiteral(" See \"quillmesh --help\".");
+    return answer({ParseResult::Wrong,
+                   command.isEmpty() ? QStringLiteral("A command is missing.") + help
+                                     : QStringLiteral("\"%1\" is no command.").arg(command) + help});
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // A file over the limit is then a failed write with a message, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(toLog);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quillmesh"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLMESH_VERSION));
+    BatchInterface interface;
+    orvane::Kernel()->SetInterface(&interface);
+    DialogAnswers answers;
+    const int code = runCommand(application.arguments().mid(1), answers);
+    orvane::Kernel()->Scene()->Clear();
+    orvane::Kernel()->SetInterface(nullptr);
+    return code;
+}
