@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "host/meshchecker/meshshape.h"
+
+#include <orvane/geometry/mesh.h>
+#include <orvane/math/axisalignedboundingbox.h>
+
+#include <cmath>
+
+namespace orvane {
+
+namespace {
+
+const double ZeroLengthFraction = 1e-6; // of the diagonal
+
+// Corners from first on, where consecutive ones differ: do only two vertices alternate?
+bool alternates(const QVector<int> &corners, int first)
+{
+    for (int i = first + 2; i < corners.size(); ++i) {
+        if (corners[i] != corners[i - 2])
+            return false;
+    }
+    return true;
+}
+
+void appendBoundary(QVector<int> &corners, const PolygonList &polygons, int polygon,
+                    int vertexCount)
+{
+    const int first = corners.size();
+    const int *corner = polygons.Corners(polygon);
+    for (int i = 0; i < polygons.CornerCount(polygon); ++i) {
+        // A mesh that lost vertices after its faces were set may still point beyond the end.
+        const bool exists = corner[i] >= 0 && corner[i] < vertexCount;
+        const bool repeated = corners.size() > first && corners.last() == corner[i];
+        if (exists && !repeated)
+            corners.append(corner[i]);
+    }
+    while (corners.size() > first + 1 && corners.last() == corners[first])
+        corners.removeLast();
+    if (corners.size() > first + 2 && alternates(corners, first))
+        corners.resize(first + 2);
+}
+
+PolygonList boundariesOf(const PolygonList &polygons, int vertexCount)
+{
+    PolygonList boundaries;
+    boundaries.firstFace = polygons.firstFace;
+    boundaries.firstCorner.reserve(polygons.firstCorner.size());
+    boundaries.corners.reserve(polygons.corners.size());
+    for (int p = 0; p < polygons.Count(); ++p) {
+        boundaries.firstCorner.append(boundaries.corners.size());
+        appendBoundary(boundaries.corners, polygons, p, vertexCount);
+    }
+    boundaries.firstCorner.append(boundaries.corners.size());
+    return boundaries;
+}
+
+// Of the vertices that faces use: a stray one far away must not make every edge look short.
+double diagonalOf(const PolygonList &boundaries, const Mesh &mesh)
+{
+    AxisAlignedBoundingBox box;
+    for (int vertex : boundaries.corners) {
+        const Vector position = mesh.VertexPosition(vertex);
+        if (position.IsFinite())
+            box.Extend(position);
+    }
+    if (box.IsEmpty())
+        return 0.0;
+    const double x = double(box.maximum.x) - box.minimum.x;
+    const double y = double(box.maximum.y) - box.minimum.y;
+    const double z = double(box.maximum.z) - box.minimum.z;
+    return std::sqrt(x * x + y * y + z * z);
+}
+
+} // namespace
+
+MeshShape::MeshShape(const Mesh &source)
+    : mesh(source),
+      polygons(polygonsOf(source)),
+      boundaries(boundariesOf(polygons, source.VertexCount())),
+      edges(edgesOf(boundaries, source.VertexCount())),
+      edgesAt(source.VertexCount(), 0),
+      boundaryEdgesAt(source.VertexCount(), 0),
+      zeroLength(ZeroLengthFraction * diagonalOf(boundaries, source))
+{
+    for (const MeshEdge &edge : qAsConst(edges)) {
+        const int boundary = edge.polygons == 1 ? 1 : 0;
+        ++edgesAt[edge.a];
+        ++edgesAt[edge.b];
+        boundaryEdgesAt[edge.a] += boundary;
+        boundaryEdgesAt[edge.b] += boundary;
+    }
+}
+
+} // namespace orvane
