@@ -47,7 +47,8 @@ double averageEdgeLength(const QVector<orvane::OrvaneCurve *> &curves)
         for (const orvane::CurvePoint &point : curve->Points()) {
             if (!point.surfacePoint.IsOnValidFace())
                 continue;
-            sum += double(meanEdgeLength(*point.surfacePoint.Mesh(), point.surfacePoint.FaceIndex()));
+            const orvane::Mesh &mesh = *point.surfacePoint.Mesh();
+            sum += double(meanEdgeLength(mesh, point.surfacePoint.FaceIndex()));
             ++count;
         }
     }

@@ -36,7 +36,7 @@ bool IntersectionNode::removeNeighbourAt(int i)
     IntersectionNode *removed = neighbours.takeAt(i);
     outgoingUsed.removeAt(i);
     incomingUsed.removeAt(i);
-    const int back = removed->indexOfNeighbour(this);
+    const int back = removed ? removed->indexOfNeighbour(this) : -1;
     if (back >= 0)
         removed->removeNeighbourAt(back);
     return true;
@@ -46,7 +46,7 @@ void IntersectionNode::unlinkAll()
 {
     for (int i = neighbours.size() - 1; i >= 0; --i) {
         if (neighbours[i])
-            removeNeighbourAt(indexOfNeighbour(neighbours[i]));
+            removeNeighbourAt(i);
     }
 }
 

@@ -159,13 +159,14 @@ void ManualRetopoOperation::generateMeshes()
     replaceSubgraphs(nodes);
     report.seconds.pieces = clock.lap();
 
+    const int firstNew = m_addGeometry.size();
     for (int i = 0; i < m_subgraphs.size(); ++i) {
         sortGraph(m_subgraphs[i]);
         report.seconds.order += clock.lap();
         generateMeshFromGraph(m_subgraphs[i]);
         report.seconds.build += clock.lap();
     }
-    noteNestedPieces(report, m_subgraphs, m_addGeometry);
+    noteNestedPieces(report, m_subgraphs, m_addGeometry.mid(firstNew));
     finishReport(report);
 }
 

@@ -2,11 +2,16 @@
 #include "operation/nestedpieces.h"
 
 #include "graph/graphwalk.h"
+#include "operation/facecells.h"
 #include "operation/runreport.h"
 
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/math/axisalignedboundingbox.h>
+
+#include <QHash>
+#include <QPair>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -20,16 +25,16 @@ const float GreatestBulge = 0.5f; // of the surface over a face, as a fraction o
 struct Face
 {
     int piece = -1;
+    int cell = -1; // which of the piece's, of several faces when it was split
     QVector<Vector> corners;
     Vector normal; // Newell's area vector, of length 1
     orvane::AxisAlignedBoundingBox box;
     float reach = 0.0f; // how far off its plane a point still lies on it
 };
 
-Face faceOf(const orvane::Mesh &mesh, int polygon, int piece)
+Face faceOf(const orvane::Mesh &mesh, int polygon)
 {
     Face face;
-    face.piece = piece;
     const orvane::PolygonList &polygons = mesh.Polygons();
     for (int i = 0; i < polygons.CornerCount(polygon); ++i)
         face.corners.append(mesh.WorldVertexPosition(polygons.Corners(polygon)[i]));
@@ -46,8 +51,8 @@ Face faceOf(const orvane::Mesh &mesh, int polygon, int piece)
 
 bool isInside(const orvane::AxisAlignedBoundingBox &box, const Vector &p)
 {
-    return box.minimum.x <= p.x && p.x <= box.maximum.x && box.minimum.y <= p.y
-           && p.y <= box.maximum.y && box.minimum.z <= p.z && p.z <= box.maximum.z;
+    return box.minimum.x <= p.x && p.x <= box.maximum.x && box.minimum.y <= p.y &&
+           p.y <= box.maximum.y && box.minimum.z <= p.z && p.z <= box.maximum.z;
 }
 
 // Seen along the face's normal, by the crossings of a ray with its sides.
@@ -73,17 +78,9 @@ bool liesOver(const Face &face, const Vector &p)
     return inside;
 }
 
-bool liesWholeOver(const Face &face, IntersectionNode *seed)
-{
-    bool all = true;
-    walkGraph(seed, 0, [&](const IntersectionNode *node) {
-        all = all && liesOver(face, node->position());
-    });
-    return all;
-}
-
 // Faces by the x at which they begin, so that a sweep along x meets few of them at a time.
-QVector<Face> facesInOrder(const RunReport &report, const QVector<orvane::Geometry *> &geometries)
+QVector<Face> facesInOrder(const RunReport &report, const QList<IntersectionNode *> &seeds,
+                           const QVector<orvane::Geometry *> &geometries)
 {
     QVector<Face> faces;
     int built = 0;
@@ -91,13 +88,56 @@ QVector<Face> facesInOrder(const RunReport &report, const QVector<orvane::Geomet
         if (report.pieces[piece].outcome != PieceReport::Built)
             continue;
         const orvane::Mesh &mesh = *geometries[built++]->CurrentLevel();
-        for (int polygon = 0; polygon < mesh.Polygons().Count(); ++polygon)
-            faces.append(faceOf(mesh, polygon, piece));
+        const QVector<int> cells = cellsOfPolygons(mesh, seeds[piece]);
+        for (int polygon = 0; polygon < cells.size(); ++polygon) {
+            Face face = faceOf(mesh, polygon);
+            if (!std::isfinite(face.box.minimum.x)) // nothing lies over it, nor can it be sorted
+                continue;
+            face.piece = piece;
+            face.cell = cells[polygon];
+            faces.append(face);
+        }
     }
-    std::sort(faces.begin(), faces.end(), [](const Face &a, const Face &b) {
-        return a.box.minimum.x < b.box.minimum.x;
-    });
+    std::sort(faces.begin(), faces.end(),
+              [](const Face &a, const Face &b) { return a.box.minimum.x < b.box.minimum.x; });
     return faces;
+}
+
+// A place of a piece, looked up among the faces of others.
+struct Probe
+{
+    Vector place;
+    int piece;
+};
+
+using Cell = QPair<int, int>; // its piece, its number there
+
+// Visits the probes from low x to high, each with the cells of other pieces over which it lies.
+template <typename Visitor>
+void sweep(QVector<Probe> probes, const QVector<Face> &faces, Visitor visit)
+{
+    const auto isNowhere = [](const Probe &probe) {
+        return !std::isfinite(probe.place.x);
+    };
+    probes.erase(std::remove_if(probes.begin(), probes.end(), isNowhere), probes.end());
+    std::stable_sort(probes.begin(), probes.end(),
+                     [](const Probe &a, const Probe &b) { return a.place.x < b.place.x; });
+    QVector<const Face *> active;
+    int next = 0;
+    for (const Probe &probe : qAsConst(probes)) {
+        while (next < faces.size() && faces[next].box.minimum.x <= probe.place.x)
+            active.append(&faces[next++]);
+        const auto isPast = [&](const Face *face) {
+            return face->box.maximum.x < probe.place.x;
+        };
+        active.erase(std::remove_if(active.begin(), active.end(), isPast), active.end());
+        QSet<Cell> cells;
+        for (const Face *face : qAsConst(active)) {
+            if (face->piece != probe.piece && liesOver(*face, probe.place))
+                cells.insert({face->piece, face->cell});
+        }
+        visit(probe, cells);
+    }
 }
 
 } // namespace
@@ -107,27 +147,28 @@ void noteNestedPieces(RunReport &report, const QList<IntersectionNode *> &seeds,
 {
     if (seeds.size() < 2)
         return;
-    const QVector<Face> faces = facesInOrder(report, geometries);
-    QVector<int> pieces;
-    for (int piece = 0; piece < seeds.size(); ++piece) {
-        if (std::isfinite(seeds[piece]->position().x))
-            pieces.append(piece);
-    }
-    std::stable_sort(pieces.begin(), pieces.end(), [&seeds](int a, int b) {
-        return seeds[a]->position().x < seeds[b]->position().x;
+    const QVector<Face> faces = facesInOrder(report, seeds, geometries);
+    QVector<Probe> starts;
+    for (int piece = 0; piece < seeds.size(); ++piece)
+        starts.append({seeds[piece]->position(), piece});
+    // Most pieces are out at their first node; only of the others every node is looked up.
+    QVector<Probe> nodes;
+    sweep(starts, faces, [&](const Probe &start, const QSet<Cell> &cells) {
+        if (cells.isEmpty())
+            return;
+        walkGraph(seeds[start.piece], 0, [&](const IntersectionNode *node) {
+            nodes.append({node->position(), start.piece});
+        });
     });
-
-    QVector<const Face *> active;
-    int next = 0;
-    for (int piece : qAsConst(pieces)) {
-        const Vector &place = seeds[piece]->position();
-        while (next < faces.size() && faces[next].box.minimum.x <= place.x)
-            active.append(&faces[next++]);
-        const auto isPast = [&place](const Face *face) { return face->box.maximum.x < place.x; };
-        active.erase(std::remove_if(active.begin(), active.end(), isPast), active.end());
-        for (const Face *face : qAsConst(active)) {
-            if (face->piece != piece && liesOver(*face, place) && liesWholeOver(*face, seeds[piece]))
-                report.pieces[piece].inFaceOfPiece = face->piece;
-        }
+    QHash<QPair<int, Cell>, int> nodesOver; // how many nodes of a piece lie over a cell
+    sweep(nodes, faces, [&](const Probe &node, const QSet<Cell> &cells) {
+        for (const Cell &cell : cells)
+            ++nodesOver[{node.piece, cell}];
+    });
+    for (auto over = nodesOver.cbegin(); over != nodesOver.cend(); ++over) {
+        PieceReport &piece = report.pieces[over.key().first];
+        const int around = over.key().second.first;
+        if (over.value() == piece.nodes)
+            piece.inFaceOfPiece = qMax(piece.inFaceOfPiece, around);
     }
 }

@@ -12,13 +12,6 @@ using orvane::Stream;
 
 namespace {
 
-void transferFlag(Stream &stream, bool &flag)
-{
-    unsigned char byte = flag ? 1 : 0; // a damaged byte must not end up in a bool
-    stream.Transfer(byte);
-    flag = byte != 0;
-}
-
 template <typename T, typename List>
 void readReferences(Stream &stream, int count, List &list)
 {
@@ -30,11 +23,11 @@ void readReferences(Stream &stream, int count, List &list)
 
 void ManualRetopoOperation::Serialize(Stream &stream)
 {
-    transferFlag(stream, m_firstExecution);
+    stream.Transfer(m_firstExecution);
     stream.Transfer(m_maxEdges);
     stream.Transfer(m_mergeDistance);
     stream.Transfer(m_intersectionTolerance);
-    transferFlag(stream, m_useSelfIntersections);
+    stream.Transfer(m_useSelfIntersections);
     stream.Transfer(m_overrunTolerance);
     int geometryCount = m_addGeometry.size();
     int curveCount = m_curves.size();

@@ -149,7 +149,8 @@ TestGraph gridGraph(int columns, int rows)
 TestGraph annulusGraph(int bridges)
 {
     TestGraph graph = polygonGraph({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}});
-    for (const Vector &corner : {Vector(1, 1, 0), Vector(3, 1, 0), Vector(3, 3, 0), Vector(1, 3, 0)})
+    for (const Vector &corner :
+         {Vector(1, 1, 0), Vector(3, 1, 0), Vector(3, 3, 0), Vector(1, 3, 0)})
         graph.add(corner);
     graph.linkRing(numbers(4, 4));
     for (int i = 0; i < bridges; ++i)
