@@ -3,11 +3,15 @@
 
 #include "graph/intersectionnode.h"
 
+#include <QHash>
+#include <QPair>
+
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-const float EndWidth = 1e-5f;      // fraction of a segment; rounding of the crossing test
+const float EndWidth = 1e-5f;       // fraction of a segment; rounding of the crossing test
 const float SamePlaceWidth = 1e-3f; // parameter; nearer than any two places one would draw
 
 bool isNearEnd(float fraction)
@@ -45,21 +49,21 @@ void NearMisses::note(int curveA, float parameterA, int curveB, float parameterB
 
 QVector<PointOnCurve> NearMisses::unresolved(const QVector<CurveRecord> &records) const
 {
-    QVector<Meeting> kept;
+    QHash<QPair<int, int>, QVector<Meeting>> kept; // by the two curves
     QVector<PointOnCurve> result;
     for (const Meeting &m : m_meetings) {
-        bool known = false;
-        // The same place is met from both segments at the point, one right after the other.
-        for (int i = kept.size() - 1; i >= 0 && kept[i].curveA == m.curveA && !known; --i) {
-            known = kept[i].curveB == m.curveB && isSameParameter(kept[i].parameterA, m.parameterA)
-                    && isSameParameter(kept[i].parameterB, m.parameterB);
-        }
+        // The same place is met from both segments at the point.
+        QVector<Meeting> &others = kept[{m.curveA, m.curveB}];
+        bool known = std::any_of(others.cbegin(), others.cend(), [&m](const Meeting &other) {
+            return isSameParameter(other.parameterA, m.parameterA)
+                   && isSameParameter(other.parameterB, m.parameterB);
+        });
         const QVector<IntersectionNode *> onB = nodesNear(records[m.curveB], m.parameterB);
         for (IntersectionNode *node : nodesNear(records[m.curveA], m.parameterA))
             known = known || onB.contains(node);
         if (known)
             continue;
-        kept.append(m);
+        others.append(m);
         result.append({m.curveA, m.curveB, m.place});
     }
     return result;

@@ -40,7 +40,7 @@ BuiltPiece buildMeshFromGraph(IntersectionNode *start, int maxEdges)
 
     BuiltPiece piece;
     piece.nodes = nodes.size();
-    piece.tracedFaces = builder.faces.size();
+    piece.builderFaces = builder.faces.size();
     piece.holes = countHoles(nodes, builder, maxEdges);
     if (!builder.faces.isEmpty())
         piece.mesh = builder.createMesh();

@@ -14,7 +14,7 @@ struct BuiltPiece
 {
     orvane::Mesh *mesh = nullptr; // owned by the caller; null when none was made or kept
     int nodes = 0;
-    int tracedFaces = 0;
+    int builderFaces = 0; // accepted, large and concave ones split
     HoleCounts holes;
 };
 

@@ -13,7 +13,7 @@ struct HoleCounts
 
     int overLimit = 0; // more edges than the limit
     int dangling = 0;  // loose ends at its corners lead every walk astray
-    int unclosed = 0;  // no walk comes back to its start as a plain ring
+    int unclosed = 0;  // no walk comes back to its start in a left turn on the whole
 };
 
 //! Follows every left-turning cycle of a traced piece and counts the inner ones that gave no face.

@@ -58,7 +58,8 @@ double angleBetween(const Vector &a, const Vector &b)
     return std::acos(double(Dot(a, b)));
 }
 
-// From world space into the polygon's own plane, where it runs counter-clockwise about +z.
+// From world space into the polygon's own plane. The frame is a mirrored one: what runs
+// counter-clockwise about its normals runs clockwise in x and y there.
 orvane::Matrix planeFrame(const Vector &faceNormal, const Vector &edge)
 {
     const Vector e = Normalized(edge);
@@ -83,13 +84,14 @@ MeshBuilder::~MeshBuilder() = default;
 
 void MeshBuilder::addPolygon(const QVector<int> &face)
 {
-    if (face.size() < 3)
+    const bool needsPositions = face.size() > 4;
+    if (face.size() < 3 || (needsPositions && positions.isEmpty()))
         return;
     const bool staysWhole =
-        face.size() <= 4 || (face.size() <= MaximumWholeCorners && !isConcave(face));
+        !needsPositions || (face.size() <= MaximumWholeCorners && !isConcave(face));
     if (staysWhole)
         faces.append(face);
-    else if (!positions.isEmpty())
+    else
         addTessellated(face);
 }
 

@@ -103,7 +103,7 @@ PieceReport &notePiece(const BuiltPiece &piece, const IntersectionNode &seed)
     if (piece.mesh) {
         report.outcome = PieceReport::NotAdded;
         report.facesByCorners = facesByCorners(*piece.mesh);
-    } else if (piece.tracedFaces > 0) {
+    } else if (piece.builderFaces > 0) {
         report.outcome = PieceReport::Discarded;
     }
     currentReport().pieces.append(report);
