@@ -32,7 +32,7 @@ as_root() {
 }
 
 is_installed() {
-    dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null | grep -qx installed
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
 # Prints those of the listed packages that are missing, one a line, with what each is for.
@@ -67,7 +67,7 @@ add_non_free() {
     codename=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
     uri=$(apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' \
               'Created-By: Packages' 2>/dev/null |
-          awk -v c="$codename" '$2 == c && $3 == "main" { print $1; exit }')
+          awk -v c="$codename" '$2 == c && $3 == "main" && !found++ { print $1 }')
     if [ -z "$uri" ] || [ -z "$codename" ]; then
         return 1
     fi
@@ -80,7 +80,7 @@ add_non_free() {
 }
 
 has_candidate() {
-    apt-cache policy "$1" 2>/dev/null | grep -q 'Candidate: [0-9]'
+    apt-cache policy "$1" 2>/dev/null | awk '/Candidate: [0-9]/ { found = 1 } END { exit !found }'
 }
 
 # Without Cg the overlay draws without its programs; nothing else needs it.
