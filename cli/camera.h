@@ -11,8 +11,8 @@ struct ScreenPoint
 {
     bool isSeen() const { return inverseDepth > 0.0f; }
 
-    float x = 0.0f; // pixels from the left
-    float y = 0.0f; // pixels from the top
+    float x = 0.0f;            // pixels from the left
+    float y = 0.0f;            // pixels from the top
     float inverseDepth = 0.0f; // 1 / distance before the eye, scene units; 0 = cannot be drawn
 };
 
@@ -37,8 +37,8 @@ private:
 
     orvane::Vector m_right;
     orvane::Vector m_up;
-    orvane::Vector m_back;   // towards the eye
-    orvane::Vector m_origin; // scene point that the eye's place is counted from
+    orvane::Vector m_back;             // towards the eye
+    orvane::Vector m_origin;           // scene point that the eye's place is counted from
     double m_eye[3] = {0.0, 0.0, 1.0}; // right, up and back of the origin
     double m_scale = 1.0;              // pixels per unit at distance 1
     QPointF m_middle;                  // of the frame, pixels

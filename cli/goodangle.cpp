@@ -14,8 +14,9 @@ const int GridSize = 128;                  // cells a side of the little picture
 const int MostTriangles = 150000;          // looked at in a surface; more are skipped evenly
 const float HiderSlack = 0.03f * GridSize; // cells that a surface may lie behind what hides it
 const float LeastCosine = 0.1f;
-const int Turns = 16; // views round the upright axis
-const double FrontLiking = 0.25; // most things are sculpted facing +z
+const float LeastDiagonal = 1e-30f; // scene units; a smaller scene cannot be scaled to the grid
+const int Turns = 16;               // views round the upright axis
+const double FrontLiking = 0.25;    // most things are sculpted facing +z
 const double DiagonalLiking = 0.08;
 const double Pi = 3.14159265358979323846;
 
@@ -24,7 +25,8 @@ const struct
 {
     double degrees;
     double liking;
-} Elevations[] = {{22.0, 1.0}, {12.0, 0.97}, {34.0, 0.97}, {50.0, 0.86}, {70.0, 0.72}, {-15.0, 0.75}};
+} Elevations[] = {{22.0, 1.0},  {12.0, 0.97}, {34.0, 0.97},
+                  {50.0, 0.86}, {70.0, 0.72}, {-15.0, 0.75}};
 
 // What one view shows, counted in a little picture without perspective.
 class ViewCount
@@ -54,11 +56,13 @@ private:
 };
 
 ViewCount::ViewCount(const Vector &direction, const orvane::AxisAlignedBoundingBox &bounds)
-    : m_right(Normalized(Vector(0.0f, 1.0f, 0.0f) & direction)), m_up(direction & m_right),
-      m_back(direction), m_middle(bounds.Center()), m_scale(GridSize / bounds.Diagonal()),
+    : m_right(Normalized(Vector(0.0f, 1.0f, 0.0f) & direction)),
+      m_up(direction & m_right),
+      m_back(direction),
+      m_middle(bounds.Center()),
+      m_scale(GridSize / bounds.Diagonal()),
       m_cells(GridSize * GridSize)
-{
-}
+{}
 
 void ViewCount::add(const Surface &surface, bool counts)
 {
@@ -66,7 +70,8 @@ void ViewCount::add(const Surface &surface, bool counts)
     places.reserve(surface.positions.size());
     for (const Vector &position : surface.positions) {
         const Vector p = (position - m_middle) * m_scale;
-        places.append({Dot(p, m_right) + GridSize / 2, Dot(p, m_up) + GridSize / 2, Dot(p, m_back)});
+        places.append(
+            {Dot(p, m_right) + GridSize / 2, Dot(p, m_up) + GridSize / 2, Dot(p, m_back)});
     }
     const int step = 1 + surface.triangles.size() / MostTriangles;
     for (int i = 0; i < surface.triangles.size(); i += step) {
@@ -148,9 +153,9 @@ Vector goodAngle(const QVector<Surface> &surfaces, const QVector<Surface> &hider
         for (int turn = 0; turn < Turns; ++turn) {
             const double angle = turn * 2.0 * Pi / Turns;
             const Vector direction = directionAt(elevation.degrees * Pi / 180.0, angle);
-            double score = elevation.liking * (1.0 + FrontLiking * std::cos(angle))
-                           * (1.0 + DiagonalLiking * std::abs(std::sin(2.0 * angle)));
-            if (bounds.Diagonal() > 0.0f) {
+            double score = elevation.liking * (1.0 + FrontLiking * std::cos(angle)) *
+                           (1.0 + DiagonalLiking * std::abs(std::sin(2.0 * angle)));
+            if (bounds.Diagonal() > LeastDiagonal) {
                 ViewCount view(direction, bounds);
                 for (const Surface &hider : hiders)
                     view.add(hider, false);

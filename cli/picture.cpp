@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/picture.h"
 
-#include "cli/goodangle.h"
 #include "cli/legend.h"
 #include "cli/picturescene.h"
 #include "cli/scenepainter.h"
@@ -85,9 +84,9 @@ QVector<LegendEntry> legendOf(const PictureScene &scene)
             entries.append({LegendEntry::Face, cornerColour(corners), faceText(corners, faces[i])});
     }
     if (!scene.source.isEmpty() && !scene.meshes.isEmpty()) {
-        entries.append({LegendEntry::Face, PictureColour::DimmedClay,
-                        QStringLiteral("source mesh %1")
-                            .arg(scene.source.first().polygons.Count())});
+        entries.append(
+            {LegendEntry::Face, PictureColour::DimmedClay,
+             QStringLiteral("source mesh %1").arg(scene.source.first().polygons.Count())});
     }
     if (scene.curveCount > 0) {
         entries.append({LegendEntry::Line, PictureColour::Curve,
@@ -109,12 +108,9 @@ QImage renderPicture(const PictureContent &content, const QSize &size)
         return picture;
     paintBackground(picture);
     const PictureScene scene(content);
-    const QVector<orvane::Vector> points = scene.pointsToFit();
-    const orvane::Vector angle = scene.meshes.isEmpty() ? goodAngle(scene.source, {})
-                                                        : goodAngle(scene.meshes, scene.source);
-    const Camera camera(angle, points, frameBesideLegend(size));
     const float lineScale = std::max(size.height() / UsualHeight, ThinnestScale);
-    ScenePainter(scene, camera, lineScale, diagonalOf(points)).paint(picture);
+    const float diagonal = diagonalOf(scene.pointsToFit());
+    ScenePainter(scene, goodCamera(scene, size), lineScale, diagonal).paint(picture);
     drawLegend(picture, titleOf(scene), legendOf(scene));
     return picture;
 }

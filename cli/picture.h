@@ -15,10 +15,10 @@ class OrvaneCurve;
 //! What a picture shows. Nothing is owned; null and empty parts are left out.
 struct PictureContent
 {
-    const orvane::Mesh *source = nullptr;    // dimmed under new meshes; alone, as lit clay
-    QVector<const orvane::Mesh *> meshes;    // the new ones, faces coloured by corner count
+    const orvane::Mesh *source = nullptr; // dimmed under new meshes; alone, as lit clay
+    QVector<const orvane::Mesh *> meshes; // the new ones, faces coloured by corner count
     QVector<const orvane::OrvaneCurve *> curves;
-    QVector<orvane::Vector> crossings;       // world space
+    QVector<orvane::Vector> crossings; // world space
 };
 
 //! Draws the content from a good angle, +y up, with a legend that counts what is shown.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/picturescene.h"
 
+#include "cli/goodangle.h"
+#include "cli/legend.h"
+
 #include <orvane/geometry/mesh.h>
 #include <orvane/geometry/orvanecurve.h>
 
@@ -73,4 +76,11 @@ QVector<Vector> PictureScene::pointsToFit() const
     for (const QVector<Vector> &stroke : strokes)
         points += stroke;
     return points + crossings;
+}
+
+Camera goodCamera(const PictureScene &scene, const QSize &size)
+{
+    const Vector angle = scene.meshes.isEmpty() ? goodAngle(scene.source, {})
+                                                : goodAngle(scene.meshes, scene.source);
+    return Camera(angle, scene.pointsToFit(), frameBesideLegend(size));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/camera.h"
 #include "cli/picture.h"
 #include "cli/surface.h"
 
@@ -20,3 +21,6 @@ struct PictureScene
     int curveCount = 0;
     QVector<orvane::Vector> crossings;
 };
+
+//! Sees the new meshes, or else the source, from a good angle and holds all of the scene.
+Camera goodCamera(const PictureScene &scene, const QSize &size);

@@ -9,16 +9,18 @@ using orvane::Vector;
 
 namespace {
 
-const int Samples = 3;           // along each side of a pixel
-const double EdgeSlack = 1e-9;   // barycentric; closes the seam between neighbours
-const double LeastArea = 1e-9;   // square samples; below, a triangle is nothing but an edge
-const float BackShade = 0.72f;   // of the colour of a side that is seen from behind
+const int Samples = 3;         // along each side of a pixel
+const double EdgeSlack = 1e-9; // barycentric; closes the seam between neighbours
+const double LeastArea = 1e-9; // square samples; below, a triangle is nothing but an edge
+const float BackShade = 0.72f; // of the colour of a side that is seen from behind
 const float Nowhere = std::numeric_limits<float>::infinity();
 
 QRgb mixed(QRgb below, QRgb above, float share)
 {
     const int a = int(share * 256.0f);
-    const auto mix = [a](int from, int to) { return from + ((to - from) * a) / 256; };
+    const auto mix = [a](int from, int to) {
+        return from + ((to - from) * a) / 256;
+    };
     return qRgb(mix(qRed(below), qRed(above)), mix(qGreen(below), qGreen(above)),
                 mix(qBlue(below), qBlue(above)));
 }
@@ -29,8 +31,7 @@ struct Columns
     Columns(double from, double to, int width)
         : first(int(std::ceil(std::max(from - 0.5, 0.0)))),
           last(int(std::floor(std::min(to - 0.5, width - 1.0))))
-    {
-    }
+    {}
 
     int first;
     int last;
@@ -41,11 +42,13 @@ class ThickLine
 {
 public:
     ThickLine(const ScreenPoint &a, const ScreenPoint &b, float width)
-        : m_x(double(a.x) * Samples), m_y(double(a.y) * Samples), m_dx((double(b.x) - a.x) * Samples),
-          m_dy((double(b.y) - a.y) * Samples), m_length(std::hypot(m_dx, m_dy)),
+        : m_x(double(a.x) * Samples),
+          m_y(double(a.y) * Samples),
+          m_dx((double(b.x) - a.x) * Samples),
+          m_dy((double(b.y) - a.y) * Samples),
+          m_length(std::hypot(m_dx, m_dy)),
           m_radius(width * Samples / 2.0 + 0.5)
-    {
-    }
+    {}
 
     double top() const { return m_y + std::min(m_dy, 0.0) - m_radius; }
     double bottom() const { return m_y + std::max(m_dy, 0.0) + m_radius; }
@@ -145,9 +148,9 @@ public:
 
     float inverseDepth(const double *shares) const
     {
-        return float(shares[0] * m_corners[0].at.inverseDepth
-                     + shares[1] * m_corners[1].at.inverseDepth
-                     + shares[2] * m_corners[2].at.inverseDepth);
+        return float(shares[0] * m_corners[0].at.inverseDepth +
+                     shares[1] * m_corners[1].at.inverseDepth +
+                     shares[2] * m_corners[2].at.inverseDepth);
     }
 
     QRgb colour(const double *shares) const
@@ -171,14 +174,17 @@ private:
 };
 
 Rasteriser::Rasteriser(const QImage &picture, int firstRow, int rows)
-    : m_width(picture.width() * Samples), m_firstRow(firstRow * Samples), m_rows(rows * Samples),
-      m_colours(m_width * m_rows), m_backdrop{QVector<float>(m_width * m_rows, Nowhere),
-                                               QVector<float>(m_width * m_rows, Nowhere)},
+    : m_width(picture.width() * Samples),
+      m_firstRow(firstRow * Samples),
+      m_rows(rows * Samples),
+      m_colours(m_width * m_rows),
+      m_backdrop{QVector<float>(m_width * m_rows, Nowhere),
+                 QVector<float>(m_width * m_rows, Nowhere)},
       m_front(m_width * m_rows, Nowhere)
 {
     for (int row = 0; row < m_rows; ++row) {
-        const QRgb *line = reinterpret_cast<const QRgb *>(
-            picture.constScanLine(firstRow + row / Samples));
+        const QRgb *line =
+            reinterpret_cast<const QRgb *>(picture.constScanLine(firstRow + row / Samples));
         for (int column = 0; column < m_width; ++column)
             m_colours[row * m_width + column] = line[column / Samples];
     }
@@ -257,7 +263,8 @@ void Rasteriser::drawLine(const ScreenPoint &a, const ScreenPoint &b, float widt
         for (int column = columns.first; column <= columns.last; ++column) {
             const double t = line.along(column + 0.5, row + 0.5);
             const float cover = line.cover(column + 0.5, row + 0.5, t);
-            const float depth = 1.0f / float(a.inverseDepth + t * (b.inverseDepth - a.inverseDepth));
+            const float depth =
+                1.0f / float(a.inverseDepth + t * (b.inverseDepth - a.inverseDepth));
             const int sample = (row - m_firstRow) * m_width + column;
             if (cover > 0.0f && !isHidden(sample, depth, reach, side))
                 m_colours[sample] = mixed(m_colours[sample], colour, cover);

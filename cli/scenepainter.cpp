@@ -107,9 +107,9 @@ void ScenePainter::drawRows(Rasteriser &rows) const
         drawMesh(rows, view);
 
     const float edgeReach = (FaceReach + EdgeLift) * m_diagonal;
-    drawStrokes(rows, m_edges, EdgeWidth, PictureColour::Edge.rgb(),
-                {edgeReach, InsideReach * m_diagonal, ThinWall * m_diagonal,
-                 EdgeLift * m_diagonal});
+    drawStrokes(
+        rows, m_edges, EdgeWidth, PictureColour::Edge.rgb(),
+        {edgeReach, InsideReach * m_diagonal, ThinWall * m_diagonal, EdgeLift * m_diagonal});
     // Curves lie on the source: where there is one, it alone may hide them, not the new faces
     // that rise above it here and there.
     const float lift = CurveLift * m_diagonal;

@@ -29,8 +29,8 @@ struct Light
 const Light Key = {{-0.46f, 0.61f, 0.645f}, {0.80f, 0.77f, 0.72f}};
 const Light Fill = {{0.86f, 0.10f, 0.50f}, {0.15f, 0.18f, 0.23f}};
 const Vector Ambient(0.245f, 0.255f, 0.275f);
-const float SkyShare = 0.35f;  // of the ambient light: more from above, less from below
-const float RimShade = 0.42f;  // light lost where a surface turns away from the eye
+const float SkyShare = 0.35f; // of the ambient light: more from above, less from below
+const float RimShade = 0.42f; // light lost where a surface turns away from the eye
 const float GlossShare = 0.07f;
 const Vector GlossDirection(-0.254f, 0.336f, 0.907f); // half way between key light and eye
 
@@ -85,8 +85,8 @@ QRgb litColour(const Vector &normal, const Material &material)
     light *= 1.0f - RimShade * away * away * away;
     const float even = 1.0f - material.contrast;
     light = light * material.contrast + Vector(even, even, even);
-    const float gloss = GlossShare * material.contrast
-                        * sixteenth(std::max(Dot(n, GlossDirection), 0.0f));
+    const float gloss =
+        GlossShare * material.contrast * sixteenth(std::max(Dot(n, GlossDirection), 0.0f));
     const Vector &c = material.colour;
     return qRgb(tone(c.x * light.x + gloss), tone(c.y * light.y + gloss),
                 tone(c.z * light.z + gloss));
@@ -100,6 +100,6 @@ CornerClass cornerClass(int corners)
 QColor cornerColour(CornerClass corners)
 {
     static const QColor Colours[CornerClassCount] = {QColor(240, 185, 66), QColor(98, 169, 216),
-                                                     QColor(47, 158, 128), QColor(190, 126, 183)};
+                                                     QColor(60, 170, 120), QColor(150, 84, 150)};
     return Colours[corners];
 }

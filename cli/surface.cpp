@@ -13,8 +13,8 @@ using orvane::Vector;
 namespace {
 
 const float FarthestCoordinate = 1e9f; // scene units; its fourth power still fits a float
-const float CreaseCosine = 0.64f;       // faces at more than 50 degrees are not smoothed together
-const int MostFanStarts = 12;           // corners tried; a larger polygon is drawn from its first
+const float CreaseCosine = 0.64f;      // faces at more than 50 degrees are not smoothed together
+const int MostFanStarts = 12;          // corners tried; a larger polygon is drawn from its first
 
 class SurfaceBuilder
 {
@@ -29,10 +29,13 @@ private:
     void addFan(int polygon);
     double worstFanTurn(int polygon, int start) const;
     void smoothCorners();
+    void gatherPolygonsAroundVertices();
     Vector corner(int polygon, int index) const;
 
     Surface m_surface;
-    QVector<Vector> m_areas; // by polygon: its normal, as long as twice its area
+    QVector<Vector> m_areas;    // by polygon: its normal, as long as twice its area
+    QVector<int> m_around;      // polygons, vertex after vertex
+    QVector<int> m_firstAround; // by vertex, and the end: where its polygons begin
 };
 
 SurfaceBuilder::SurfaceBuilder(const orvane::Mesh &mesh)
@@ -102,8 +105,8 @@ double SurfaceBuilder::worstFanTurn(int polygon, int start) const
     const Vector origin = corner(polygon, start);
     double worst = std::numeric_limits<double>::infinity();
     for (int i = 1; i + 1 < m_surface.polygons.CornerCount(polygon); ++i) {
-        const Vector area = (corner(polygon, start + i) - origin)
-                            & (corner(polygon, start + i + 1) - origin);
+        const Vector area =
+            (corner(polygon, start + i) - origin) & (corner(polygon, start + i + 1) - origin);
         worst = std::min(worst, double(Dot(area, m_areas[polygon])));
     }
     return worst;
@@ -127,41 +130,47 @@ void SurfaceBuilder::addFan(int polygon)
     const int *corners = m_surface.polygons.Corners(polygon);
     const Vector normal = Normalized(m_areas[polygon]);
     for (int i = 1; i + 1 < count; ++i) {
-        m_surface.triangles.append({{corners[best], corners[(best + i) % count],
-                                     corners[(best + i + 1) % count]},
-                                    {normal, normal, normal},
-                                    polygon});
+        m_surface.triangles.append(
+            {{corners[best], corners[(best + i) % count], corners[(best + i + 1) % count]},
+             {normal, normal, normal},
+             polygon});
+    }
+}
+
+void SurfaceBuilder::gatherPolygonsAroundVertices()
+{
+    const PolygonList &polygons = m_surface.polygons;
+    m_firstAround.fill(0, m_surface.positions.size() + 1);
+    for (int vertex : polygons.corners)
+        ++m_firstAround[vertex + 1];
+    for (int vertex = 0; vertex < m_surface.positions.size(); ++vertex)
+        m_firstAround[vertex + 1] += m_firstAround[vertex];
+    m_around.resize(polygons.corners.size());
+    QVector<int> next = m_firstAround;
+    for (int polygon = 0; polygon < polygons.Count(); ++polygon) {
+        for (int i = 0; i < polygons.CornerCount(polygon); ++i)
+            m_around[next[polygons.Corners(polygon)[i]]++] = polygon;
     }
 }
 
 // Each corner takes the mean normal of the polygons round its vertex that lie much as its own.
 void SurfaceBuilder::smoothCorners()
 {
-    const PolygonList &polygons = m_surface.polygons;
-    QVector<int> first(m_surface.positions.size() + 1, 0);
-    for (int vertex : polygons.corners)
-        ++first[vertex + 1];
-    for (int vertex = 0; vertex < m_surface.positions.size(); ++vertex)
-        first[vertex + 1] += first[vertex];
-    QVector<int> around(polygons.corners.size());
-    QVector<int> next = first;
-    for (int polygon = 0; polygon < polygons.Count(); ++polygon) {
-        for (int i = 0; i < polygons.CornerCount(polygon); ++i)
-            around[next[polygons.Corners(polygon)[i]]++] = polygon;
-    }
+    gatherPolygonsAroundVertices();
     QVector<Vector> facing = m_areas;
     for (Vector &normal : facing)
         normal.Normalize();
-    for (SurfaceTriangle &triangle : m_surface.triangles) {
-        const Vector own = facing[triangle.polygon];
-        for (int i = 0; i < 3; ++i) {
-            Vector sum;
-            for (int k = first[triangle.vertex[i]]; k < first[triangle.vertex[i] + 1]; ++k) {
-                if (Dot(facing[around[k]], own) > CreaseCosine)
-                    sum += m_areas[around[k]];
-            }
-            triangle.normal[i] = Normalized(sum);
+    const auto smoothed = [this, &facing](int vertex, const Vector &own) {
+        Vector sum;
+        for (int i = m_firstAround[vertex]; i < m_firstAround[vertex + 1]; ++i) {
+            if (Dot(facing[m_around[i]], own) > CreaseCosine)
+                sum += m_areas[m_around[i]];
         }
+        return Normalized(sum);
+    };
+    for (SurfaceTriangle &triangle : m_surface.triangles) {
+        for (int i = 0; i < 3; ++i)
+            triangle.normal[i] = smoothed(triangle.vertex[i], facing[triangle.polygon]);
     }
 }
 
@@ -169,8 +178,8 @@ void SurfaceBuilder::smoothCorners()
 
 bool isDrawable(const Vector &point)
 {
-    return std::abs(point.x) < FarthestCoordinate && std::abs(point.y) < FarthestCoordinate
-           && std::abs(point.z) < FarthestCoordinate;
+    return std::abs(point.x) < FarthestCoordinate && std::abs(point.y) < FarthestCoordinate &&
+           std::abs(point.z) < FarthestCoordinate;
 }
 
 Surface surfaceOf(const orvane::Mesh &mesh, SurfaceLook look)

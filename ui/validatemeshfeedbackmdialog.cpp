@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QStyle>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -60,17 +60,18 @@ QScrollArea *ValidateMeshFeedbackmDialog::createFaultList(int faults)
     }
     // What room is left over goes to the texts, and below the last row.
     grid->setColumnStretch(TextColumns, 1);
-    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setAlignment(Qt::AlignTop);
     auto *frame = new QFrame;
     frame->setMinimumWidth(ListMinimumWidth);
     frame->setLayout(grid);
 
     auto *scrollArea = new QScrollArea(this);
     scrollArea->setFrameStyle(0);
-    scrollArea->setWidget(frame);
     scrollArea->setWidgetResizable(true);
-    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    scrollArea->setMinimumWidth(ListMinimumWidth + scrollBar);
+    scrollArea->setWidget(frame);
+    // A long list must not need the other scroll bar because of the one at its side.
+    scrollArea->setMinimumWidth(ListMinimumWidth
+                                + scrollArea->verticalScrollBar()->sizeHint().width());
     return scrollArea;
 }
 

@@ -49,7 +49,7 @@ bool isDegenerate(const MeshShape &shape, int polygon)
         reach = std::max(reach, next.length());
         previous = next;
     }
-    return doubledArea.length() * 0.5 <= reach * shape.zeroLength;
+    return std::isfinite(reach) && doubledArea.length() * 0.5 <= reach * shape.zeroLength;
 }
 
 // Finds polygons with the same set of vertices. Such polygons share their lowest vertex, so
