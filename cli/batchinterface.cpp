@@ -11,9 +11,7 @@ const int ShowEvery = 100; // milliseconds
 
 } // namespace
 
-BatchInterface::BatchInterface() : m_isTerminal(isatty(STDERR_FILENO) == 1)
-{
-}
+BatchInterface::BatchInterface() : m_isTerminal(isatty(STDERR_FILENO) == 1) {}
 
 void BatchInterface::ProgressStart(const QString &text, qint64 maximum, double, int)
 {

@@ -29,12 +29,13 @@ int BuildJob::run()
         return ExitFileTrouble;
     }
     if (m_report.binding.bound == 0) {
-        printLine(stderr, QStringLiteral("%1: none of its %2 points lies within %3 % of the diagonal "
-                                         "of %4; expected curves drawn on that mesh.")
-                              .arg(m_options.curves)
-                              .arg(m_report.binding.points)
-                              .arg(double(m_options.bindPercent))
-                              .arg(m_options.mesh));
+        printLine(stderr,
+                  QStringLiteral("%1: none of its %2 points lies within %3 % of the diagonal "
+                                 "of %4; expected curves drawn on that mesh.")
+                      .arg(m_options.curves)
+                      .arg(m_report.binding.points)
+                      .arg(double(m_options.bindPercent))
+                      .arg(m_options.mesh));
         return ExitNothingMade;
     }
     return build();

@@ -28,8 +28,8 @@ public:
         m_command = command;
         m_parser.setApplicationDescription(text(description));
         m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                            QStringLiteral("Show this help.")});
+        m_parser.addOption(
+            {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
     }
 
     void argument(const char *name, const char *description, const char *syntax)
@@ -98,7 +98,9 @@ public:
     {
         const QStringList sides = value(name).split(QLatin1Char('x'));
         const QSize result(sides.value(0).toInt(), sides.value(1).toInt());
-        const auto fits = [](int side) { return side >= MinimumSide && side <= MaximumSide; };
+        const auto fits = [](int side) {
+            return side >= MinimumSide && side <= MaximumSide;
+        };
         if (sides.size() != 2 || !fits(result.width()) || !fits(result.height()))
             fail(QStringLiteral("--%1: \"%2\" is not a size like 1600x1200, sides from %3 to %4.")
                      .arg(text(name), value(name))
@@ -185,9 +187,8 @@ void declareBuild(Words &words)
                  "How far apart two curves may pass and still cross; % of the average edge "
                  "length (5).",
                  "PERCENT", "5");
-    words.option("overrun",
-                 "How far open curves are lengthened; % of their end segment (35).", "PERCENT",
-                 "35");
+    words.option("overrun", "How far open curves are lengthened; % of their end segment (35).",
+                 "PERCENT", "35");
     words.flag("self-intersections", "Crossings of a curve with itself become vertices too.");
     words.option("on-faults", "Keep a mesh with faults, or discard it: accept or discard (accept).",
                  "ANSWER", "accept");
@@ -253,15 +254,16 @@ ParseResult parsePicture(const QStringList &arguments, PictureOptions &options)
 
 QString programHelp()
 {
-    return text("Usage: quillmesh COMMAND ...\n"
-                "Turns curves drawn on a mesh into a clean new mesh.\n\n"
-                "Commands:\n"
-                "  build MESH CURVES -o OUT     make a new mesh from curves drawn on a mesh\n"
-                "  check MESH                   say what is wrong with a mesh\n"
-                "  picture MESH [CURVES] -o OUT draw a mesh and curves as a picture\n\n"
-                "Options:\n"
-                "  -h, --help     show this help; each command has its own: quillmesh build --help\n"
-                "  -v, --version  show the version\n\n"
-                "Exit codes: 0 done; 1 no mesh was made; 2 wrong usage; 3 a file cannot be read\n"
-                "or written; 4 faults: they cost every mesh, or a checked mesh has some.\n");
+    return text(
+        "Usage: quillmesh COMMAND ...\n"
+        "Turns curves drawn on a mesh into a clean new mesh.\n\n"
+        "Commands:\n"
+        "  build MESH CURVES -o OUT     make a new mesh from curves drawn on a mesh\n"
+        "  check MESH                   say what is wrong with a mesh\n"
+        "  picture MESH [CURVES] -o OUT draw a mesh and curves as a picture\n\n"
+        "Options:\n"
+        "  -h, --help     show this help; each command has its own: quillmesh build --help\n"
+        "  -v, --version  show the version\n\n"
+        "Exit codes: 0 done; 1 no mesh was made; 2 wrong usage; 3 a file cannot be read\n"
+        "or written; 4 faults: they cost every mesh, or a checked mesh has some.\n");
 }

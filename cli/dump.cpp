@@ -71,16 +71,16 @@ QByteArray pointJson(const orvane::CurvePoint &point)
     const bool onFace = surface.IsOnValidFace();
     const float edge = onFace ? meanEdgeLength(*surface.Mesh(), surface.FaceIndex()) : 0.0f;
     return "{\"position\": " + triple(point.position) + ", \"onFace\": " + boolean(onFace)
-           + ", \"normal\": " + triple(surface.WorldNormal()) + ", \"faceEdgeMean\": "
-           + number(edge) + '}';
+           + ", \"normal\": " + triple(surface.WorldNormal())
+           + ", \"faceEdgeMean\": " + number(edge) + '}';
 }
 
 QByteArray curveJson(const orvane::OrvaneCurve &curve)
 {
     return "{\"name\": " + quoted(curve.Name()) + ", \"closed\": " + boolean(curve.Closed())
-           + ", \"points\": " + list(curve.PointCount(), ",\n  ", [&curve](int i) {
-                 return pointJson(curve.Points()[i]);
-             })
+           + ", \"points\": "
+           + list(curve.PointCount(), ",\n  ",
+                  [&curve](int i) { return pointJson(curve.Points()[i]); })
            + '}';
 }
 
@@ -106,8 +106,7 @@ QByteArray pieceJson(IntersectionNode *seed, const CurveNumbers &curveNumbers)
     QVector<const IntersectionNode *> nodes;
     walkGraph(seed, 0, [&nodes](const IntersectionNode *node) { nodes.append(node); });
     return "{\"seed\": " + QByteArray::number(seed->vertexIndex) + ", \"nodes\": "
-           + list(nodes.size(), ",\n  ",
-                  [&](int i) { return nodeJson(*nodes[i], curveNumbers); })
+           + list(nodes.size(), ",\n  ", [&](int i) { return nodeJson(*nodes[i], curveNumbers); })
            + '}';
 }
 
@@ -129,7 +128,8 @@ QByteArray meshJson(const orvane::Geometry &geometry, int piece)
     };
     return "{\"name\": " + quoted(geometry.Name()) + ", \"piece\": " + QByteArray::number(piece)
            + ", \"kind\": " + kindOf(mesh) + ",\n  \"positions\": "
-           + list(mesh.VertexCount(), ",", [&](int v) { return triple(mesh.WorldVertexPosition(v)); })
+           + list(mesh.VertexCount(), ",",
+                  [&](int v) { return triple(mesh.WorldVertexPosition(v)); })
            + ",\n  \"normals\": "
            + list(mesh.VertexCount(), ",", [&](int v) { return triple(mesh.VertexNormal(v)); })
            + ",\n  \"meshFaces\": " + list(mesh.FaceCount(), ",", face) + ",\n  \"fake\": "
@@ -164,8 +164,7 @@ QByteArray dumpRun(const BuildOptions &options, const QVector<orvane::OrvaneCurv
            + number(float(lastRunReport().averageEdgeLength)) + ",\n\"curves\": "
            + list(curves.size(), separator, [&](int i) { return curveJson(*curves[i]); })
            + ",\n\"pieces\": "
-           + list(seeds.size(), separator,
-                  [&](int i) { return pieceJson(seeds[i], curveNumbers); })
+           + list(seeds.size(), separator, [&](int i) { return pieceJson(seeds[i], curveNumbers); })
            + ",\n\"meshes\": "
            + list(geometries.size(), separator,
                   [&](int i) { return meshJson(*geometries[i], built[i]); })

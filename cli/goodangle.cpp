@@ -153,8 +153,8 @@ Vector goodAngle(const QVector<Surface> &surfaces, const QVector<Surface> &hider
         for (int turn = 0; turn < Turns; ++turn) {
             const double angle = turn * 2.0 * Pi / Turns;
             const Vector direction = directionAt(elevation.degrees * Pi / 180.0, angle);
-            double score = elevation.liking * (1.0 + FrontLiking * std::cos(angle)) *
-                           (1.0 + DiagonalLiking * std::abs(std::sin(2.0 * angle)));
+            double score = elevation.liking * (1.0 + FrontLiking * std::cos(angle))
+                           * (1.0 + DiagonalLiking * std::abs(std::sin(2.0 * angle)));
             if (bounds.Diagonal() > LeastDiagonal) {
                 ViewCount view(direction, bounds);
                 for (const Surface &hider : hiders)

@@ -74,9 +74,10 @@ int runCommand(const QStringList &words, DialogAnswers &answers)
         return answer({ParseResult::ShowHelp,
                        QStringLiteral("quillmesh %1\n").arg(qApp->applicationVersion())});
     const QString help = QStringLiteral(" See \"quillmesh --help\".");
-    return answer({ParseResult::Wrong,
-                   command.isEmpty() ? QStringLiteral("A command is missing.") + help
-                                     : QStringLiteral("\"%1\" is no command.").arg(command) + help});
+    return answer(
+        {ParseResult::Wrong, command.isEmpty()
+                                 ? QStringLiteral("A command is missing.") + help
+                                 : QStringLiteral("\"%1\" is no command.").arg(command) + help});
 }
 
 } // namespace

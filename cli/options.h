@@ -11,16 +11,16 @@ struct BuildOptions
     QString curves;
     QString output;
     int maximumEdges = 5;
-    float mergePercent = 30.0f;      // of the average edge length
-    float tolerancePercent = 5.0f;   // of the average edge length
-    float overrunPercent = 35.0f;    // of an open curve's end segment
-    float bindPercent = 2.0f;        // of the mesh's diagonal
+    float mergePercent = 30.0f;    // of the average edge length
+    float tolerancePercent = 5.0f; // of the average edge length
+    float overrunPercent = 35.0f;  // of an open curve's end segment
+    float bindPercent = 2.0f;      // of the mesh's diagonal
     bool useSelfIntersections = false;
     bool acceptFaults = true;
     bool json = false;
-    QString dump;                    // empty: none
-    QString picture;                 // empty: none
-    QSize pictureSize{1600, 1200};   // pixels
+    QString dump;                  // empty: none
+    QString picture;               // empty: none
+    QSize pictureSize{1600, 1200}; // pixels
 };
 
 //! What `quillmesh picture` was asked for.

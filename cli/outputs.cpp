@@ -18,7 +18,8 @@ bool isPictureOutput(const QString &path, QString *error)
 {
     if (QFileInfo(path).suffix().toLower() == QLatin1String("png"))
         return orvane::isPlaceForFile(path, error);
-    *error = orvane::aboutFile(path, QStringLiteral("pictures are written as .png; expected a name that ends so."));
+    *error = orvane::aboutFile(
+        path, QStringLiteral("pictures are written as .png; expected a name that ends so."));
     return false;
 }
 

@@ -12,8 +12,7 @@ struct Parameters
           intersectionTolerance(options.tolerancePercent / 100.0f),
           overrunTolerance(float(double(options.overrunPercent) * 0.01)),
           useSelfIntersections(options.useSelfIntersections)
-    {
-    }
+    {}
 
     int maximumEdges;
     float mergeDistance;         // fraction of the average edge length

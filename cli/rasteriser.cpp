@@ -148,9 +148,9 @@ public:
 
     float inverseDepth(const double *shares) const
     {
-        return float(shares[0] * m_corners[0].at.inverseDepth +
-                     shares[1] * m_corners[1].at.inverseDepth +
-                     shares[2] * m_corners[2].at.inverseDepth);
+        return float(shares[0] * m_corners[0].at.inverseDepth
+                     + shares[1] * m_corners[1].at.inverseDepth
+                     + shares[2] * m_corners[2].at.inverseDepth);
     }
 
     QRgb colour(const double *shares) const

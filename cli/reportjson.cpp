@@ -78,11 +78,10 @@ QJsonArray pointsJson(const BatchReport &report)
 QJsonObject secondsJson(const BatchReport &report)
 {
     const StageSeconds &s = report.run.seconds;
-    QJsonObject result{{key("measure"), s.measure}, {key("sample"), s.sample},
-                       {key("self"), s.self},       {key("cross"), s.cross},
-                       {key("link"), s.link},       {key("merge"), s.merge},
-                       {key("pieces"), s.pieces},   {key("order"), s.order},
-                       {key("build"), s.build}};
+    QJsonObject result{
+        {key("measure"), s.measure}, {key("sample"), s.sample}, {key("self"), s.self},
+        {key("cross"), s.cross},     {key("link"), s.link},     {key("merge"), s.merge},
+        {key("pieces"), s.pieces},   {key("order"), s.order},   {key("build"), s.build}};
     for (const auto &time : report.otherTimes)
         result.insert(time.first, time.second);
     return result;

@@ -40,12 +40,13 @@ QString runLines(const BatchReport &report)
     text += line("pieces", QStringLiteral("%1, of which %2 made a mesh")
                                .arg(report.run.pieces.size())
                                .arg(report.meshes.size()));
-    text += line("faces", count == 0 ? QStringLiteral("none")
-                                     : QStringLiteral("%1: %2").arg(count).arg(facesInWords(faces)));
-    text += line("holes", holes.total() == 0 ? holesInWords(holes)
-                                             : QStringLiteral("%1: %2")
-                                                   .arg(holes.total())
-                                                   .arg(holesInWords(holes)));
+    text +=
+        line("faces", count == 0 ? QStringLiteral("none")
+                                 : QStringLiteral("%1: %2").arg(count).arg(facesInWords(faces)));
+    text +=
+        line("holes", holes.total() == 0
+                          ? holesInWords(holes)
+                          : QStringLiteral("%1: %2").arg(holes.total()).arg(holesInWords(holes)));
     return text;
 }
 
@@ -74,13 +75,15 @@ QString pointLines(const BatchReport &report)
 {
     if (report.run.pointsOnCurves.isEmpty())
         return {};
-    QString text = line("warning", QStringLiteral("%1 places where a curve passes exactly through a "
-                                                  "point of a curve: no crossing there")
-                                       .arg(report.run.pointsOnCurves.size()));
+    QString text =
+        line("warning", QStringLiteral("%1 places where a curve passes exactly through a "
+                                       "point of a curve: no crossing there")
+                            .arg(report.run.pointsOnCurves.size()));
     for (const PointOnCurve &point : report.run.pointsOnCurves)
-        text += line("", QStringLiteral("\"%1\" and \"%2\" at %3")
-                             .arg(report.curveNames.value(point.curveA),
-                                  report.curveNames.value(point.curveB), placeInWords(point.place)));
+        text +=
+            line("", QStringLiteral("\"%1\" and \"%2\" at %3")
+                         .arg(report.curveNames.value(point.curveA),
+                              report.curveNames.value(point.curveB), placeInWords(point.place)));
     return text;
 }
 

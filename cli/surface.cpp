@@ -178,8 +178,8 @@ void SurfaceBuilder::smoothCorners()
 
 bool isDrawable(const Vector &point)
 {
-    return std::abs(point.x) < FarthestCoordinate && std::abs(point.y) < FarthestCoordinate &&
-           std::abs(point.z) < FarthestCoordinate;
+    return std::abs(point.x) < FarthestCoordinate && std::abs(point.y) < FarthestCoordinate
+           && std::abs(point.z) < FarthestCoordinate;
 }
 
 Surface surfaceOf(const orvane::Mesh &mesh, SurfaceLook look)

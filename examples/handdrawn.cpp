@@ -10,8 +10,8 @@ using orvane::Vector;
 
 namespace {
 
-const float Waver = 0.0035f;      // scene units
-const float WaverLength = 0.35f;  // scene units
+const float Waver = 0.0035f;     // scene units
+const float WaverLength = 0.35f; // scene units
 const int RoundingPasses = 4;
 
 // A slow wave of its own for each seed, between -1 and 1.
@@ -87,8 +87,8 @@ Stroke handDrawn(const Stroke &stroke, float spacing, int seed)
             continue;
         const Vector along = even[(i + 1) % count] - even[(i + count - 1) % count];
         const Vector aside = Normalized(headshape::normal(even[i]) & along);
-        result.points[i] = headshape::onSurface(
-            even[i] + aside * (Waver * wave(float(i) * spacing, seed)));
+        result.points[i] =
+            headshape::onSurface(even[i] + aside * (Waver * wave(float(i) * spacing, seed)));
     }
     return result;
 }

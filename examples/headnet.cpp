@@ -41,7 +41,9 @@ Section sectionAt(float y)
         if (y > above->y)
             continue;
         const float t = (y - below->y) / (above->y - below->y);
-        const auto mix = [t](float a, float b) { return a + (b - a) * t; };
+        const auto mix = [t](float a, float b) {
+            return a + (b - a) * t;
+        };
         return {y, mix(below->halfWidth, above->halfWidth), mix(below->middle, above->middle),
                 mix(below->halfDepth, above->halfDepth)};
     }
@@ -69,14 +71,16 @@ struct Level
 };
 
 const Level Levels[] = {
-    {"neck low", -1.52f, 0.05f},   {"neck middle", -1.30f, 0.12f}, {"neck top", -1.08f, 0.20f},
-    {"under the jaw", -0.94f, 0.25f}, {"jaw", -0.847f, 0.22f},     {"under the lip", -0.645f, 0.12f},
-    {"over the lip", -0.495f, 0.10f}, {"nose", -0.36f, 0.08f},     {"cheek", -0.20f, 0.06f},
-    {"lower lid", -0.026f, 0.06f}, {"upper lid", 0.077f, 0.02f},   {"brow", 0.27f, 0.04f},
-    {"forehead", 0.42f, 0.0f},     {"hairline", 0.57f, 0.0f},
+    {"neck low", -1.52f, 0.05f},      {"neck middle", -1.30f, 0.12f},
+    {"neck top", -1.08f, 0.20f},      {"under the jaw", -0.94f, 0.25f},
+    {"jaw", -0.847f, 0.22f},          {"under the lip", -0.645f, 0.12f},
+    {"over the lip", -0.495f, 0.10f}, {"nose", -0.36f, 0.08f},
+    {"cheek", -0.20f, 0.06f},         {"lower lid", -0.026f, 0.06f},
+    {"upper lid", 0.077f, 0.02f},     {"brow", 0.27f, 0.04f},
+    {"forehead", 0.42f, 0.0f},        {"hairline", 0.57f, 0.0f},
 };
 
-const float Meridians[] = {0.0f, 0.12f, 0.33f, 0.60f, 0.74f}; // across
+const float Meridians[] = {0.0f, 0.12f, 0.33f, 0.60f, 0.74f};   // across
 const float Arches[] = {0.40f, 0.155f, -0.06f, -0.30f, -0.46f}; // along
 
 // An arch that ends on the crown's side, a little past a meridian.
@@ -111,19 +115,20 @@ public:
     {
         drawRings();
         for (const Level &level : Levels) {
-            add(level.name, [&level](const Vector &p) { return p.y + level.slope * p.z - level.y; });
+            add(level.name,
+                [&level](const Vector &p) { return p.y + level.slope * p.z - level.y; });
         }
         for (float place : Meridians) {
-            addMirrored("meridian", place, [](const Vector &p, float at) { return across(p) - at; });
+            addMirrored("meridian", place,
+                        [](const Vector &p, float at) { return across(p) - at; });
         }
         for (float place : Arches)
             add("arch", [place](const Vector &p) { return along(p) - place; });
         for (const HalfArch &arch : HalfArches)
             addOnCrown("half arch", arch.end,
                        [&arch](const Vector &p) { return along(p) - arch.along; });
-        addOnCrown("parting", Parting.end, [](const Vector &p) {
-            return p.z > 0.0f ? p.y - Parting.along : 1.0f;
-        });
+        addOnCrown("parting", Parting.end,
+                   [](const Vector &p) { return p.z > 0.0f ? p.y - Parting.along : 1.0f; });
         return m_strokes;
     }
 
@@ -170,7 +175,9 @@ private:
     // A closed line opened where it is farthest from the crown.
     static Stroke rotatedToBottom(Stroke line)
     {
-        const auto lower = [](const Vector &a, const Vector &b) { return a.y < b.y; };
+        const auto lower = [](const Vector &a, const Vector &b) {
+            return a.y < b.y;
+        };
         if (line.closed)
             std::rotate(line.points.begin(),
                         std::min_element(line.points.begin(), line.points.end(), lower),

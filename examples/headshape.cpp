@@ -33,7 +33,8 @@ float jawAndCheeks(const Vector &p)
     d = sdf::join(d, jaw, 0.22f);
     const float chin = sdf::ellipsoid(p - Vector(0.0f, -0.97f, 0.66f), {0.17f, 0.12f, 0.11f});
     d = sdf::join(d, chin, 0.14f);
-    const float cheekBone = sdf::rod(q, {0.37f, -0.25f, 0.53f}, {0.60f, -0.12f, 0.15f}, 0.13f, 0.09f);
+    const float cheekBone =
+        sdf::rod(q, {0.37f, -0.25f, 0.53f}, {0.60f, -0.12f, 0.15f}, 0.13f, 0.09f);
     return sdf::join(d, cheekBone, 0.22f);
 }
 
@@ -93,7 +94,8 @@ float mouth(float d, const Vector &p, const Vector &q)
     d = sdf::join(d, lower, 0.07f);
     const float philtrum = sdf::rod(p, {0.0f, -0.47f, 0.90f}, {0.0f, -0.56f, 0.90f}, 0.03f, 0.04f);
     d = sdf::carve(d, philtrum, 0.08f);
-    const float parting = sdf::rod(q, {0.0f, -0.652f, 0.86f}, {0.25f, -0.665f, 0.70f}, 0.012f, 0.012f);
+    const float parting =
+        sdf::rod(q, {0.0f, -0.652f, 0.86f}, {0.25f, -0.665f, 0.70f}, 0.012f, 0.012f);
     return sdf::carve(d, parting, 0.03f);
 }
 
@@ -106,9 +108,11 @@ float ear(const Vector &q)
     float d = sdf::ellipsoid(egg, {0.06f, 0.27f, 0.18f});
     const float dish = sdf::ellipsoid(egg - Vector(0.09f, 0.03f, 0.0f), {0.085f, 0.24f, 0.13f});
     d = sdf::carve(d, dish, 0.05f);
-    const float concha = sdf::ellipsoid(local - Vector(0.06f, -0.05f, 0.03f), {0.09f, 0.11f, 0.085f});
+    const float concha =
+        sdf::ellipsoid(local - Vector(0.06f, -0.05f, 0.03f), {0.09f, 0.11f, 0.085f});
     d = sdf::carve(d, concha, 0.04f);
-    const float tragus = sdf::ellipsoid(local - Vector(-0.01f, -0.06f, 0.14f), {0.05f, 0.055f, 0.04f});
+    const float tragus =
+        sdf::ellipsoid(local - Vector(-0.01f, -0.06f, 0.14f), {0.05f, 0.055f, 0.04f});
     return sdf::join(d, tragus, 0.04f);
 }
 

@@ -7,8 +7,8 @@
 //! y = NeckCut. The face looks along +z; left and right are mirrored about x = 0.
 namespace headshape {
 
-const float NeckCut = -1.75f;  // scene units
-const float HeadSize = 2.9f;   // height from neck cut to crown, scene units
+const float NeckCut = -1.75f; // scene units
+const float HeadSize = 2.9f;  // height from neck cut to crown, scene units
 
 //! Signed distance to the surface, scene units, negative inside; right to first order near
 //! the surface only.

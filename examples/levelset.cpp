@@ -84,8 +84,8 @@ private:
             }
         }
         const std::vector<Edge> &last = m_joined[edge];
-        stroke.closed = stroke.points.size() > 2 && last.size() == 2
-                        && (last[0] == start || last[1] == start);
+        stroke.closed =
+            stroke.points.size() > 2 && last.size() == 2 && (last[0] == start || last[1] == start);
         return stroke;
     }
 

@@ -39,8 +39,8 @@ QByteArray curvesText(const std::vector<NamedStroke> &strokes)
     QByteArray text = "{\"curves\": [\n";
     for (size_t i = 0; i < strokes.size(); ++i) {
         const NamedStroke &named = strokes[i];
-        text += "{\"name\": \"" + QByteArray::fromStdString(named.name) + "\", \"closed\": "
-                + (named.stroke.closed ? "true" : "false") + ", \"points\": [";
+        text += "{\"name\": \"" + QByteArray::fromStdString(named.name)
+                + "\", \"closed\": " + (named.stroke.closed ? "true" : "false") + ", \"points\": [";
         const char *separator = "";
         for (const orvane::Vector &p : named.stroke.points) {
             text += separator + ('[' + number(p.x) + ", " + number(p.y) + ", " + number(p.z) + ']');

@@ -7,8 +7,8 @@ using orvane::Vector;
 
 namespace {
 
-const Vector Low(-1.45f, -1.85f, -1.35f);  // a corner of a box round the head, scene units
-const Vector High(1.45f, 1.30f, 1.25f);    // the opposite corner
+const Vector Low(-1.45f, -1.85f, -1.35f); // a corner of a box round the head, scene units
+const Vector High(1.45f, 1.30f, 1.25f);   // the opposite corner
 const int SmoothingRounds = 3;
 
 class SurfaceNet
@@ -18,8 +18,7 @@ public:
         : m_cell(cellSize),
           m_count{int((High.x - Low.x) / cellSize), int((High.y - Low.y) / cellSize),
                   int((High.z - Low.z) / cellSize)}
-    {
-    }
+    {}
 
     TriangleMesh mesh()
     {
@@ -135,8 +134,8 @@ private:
         }
         for (size_t i = 0; i < sum.size(); ++i) {
             if (weight[i] > 0.0f)
-                m_mesh.positions[i] = headshape::onSurface(
-                    m_mesh.positions[i] * 0.5f + sum[i] * (0.5f / weight[i]));
+                m_mesh.positions[i] =
+                    headshape::onSurface(m_mesh.positions[i] * 0.5f + sum[i] * (0.5f / weight[i]));
         }
     }
 

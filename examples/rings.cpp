@@ -78,8 +78,8 @@ float Ring::angleOf(const Vector &p) const
 
 Vector Ring::place(float angle, float reach) const
 {
-    const Vector offset = right * (std::cos(angle) * radiusRight * reach)
-                          + up * (std::sin(angle) * radiusUp * reach);
+    const Vector offset =
+        right * (std::cos(angle) * radiusRight * reach) + up * (std::sin(angle) * radiusUp * reach);
     return headshape::castRay(centre + offset + out * ViewDistance, -out);
 }
 

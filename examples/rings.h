@@ -21,10 +21,10 @@ struct Ring
     orvane::Vector centre;
     orvane::Vector right;
     orvane::Vector up;
-    orvane::Vector out;        // towards who looks at it
-    float radiusRight = 0.0f;  // of the outer loop, scene units
+    orvane::Vector out;       // towards who looks at it
+    float radiusRight = 0.0f; // of the outer loop, scene units
     float radiusUp = 0.0f;
-    std::vector<float> loops;  // reach of each, the outer one first
+    std::vector<float> loops; // reach of each, the outer one first
 };
 
 //! The parts of a stroke outside every ring. Where a stroke meets a ring, the part goes on straight

@@ -13,9 +13,9 @@
 
 namespace {
 
-const int ExpectedCurves = 16;    // count
-const int MessageType = 1;        // a warning
-const int MessageTime = 2000;     // milliseconds
+const int ExpectedCurves = 16; // count
+const int MessageType = 1;     // a warning
+const int MessageTime = 2000;  // milliseconds
 
 } // namespace
 
@@ -30,8 +30,7 @@ QList<orvane::OrvaneCurve *> collectCurves()
             curves.append(curve);
     }
     if (curves.isEmpty()) {
-        const QString text =
-            QCoreApplication::translate("Quillmesh", "No valid 3d curve in scene");
+        const QString text = QCoreApplication::translate("Quillmesh", "No valid 3d curve in scene");
         orvane::Kernel()->Interface()->HUDMessageShow(text, MessageType, MessageTime);
     }
     return curves;

@@ -25,8 +25,7 @@ public:
     //! Keeps the order by parameter; equal parameters stay in the order they came.
     void insert(float parameter, IntersectionNode *node)
     {
-        const auto place =
-            std::upper_bound(m_parameters.cbegin(), m_parameters.cend(), parameter);
+        const auto place = std::upper_bound(m_parameters.cbegin(), m_parameters.cend(), parameter);
         const int index = int(place - m_parameters.cbegin());
         m_parameters.insert(index, parameter);
         m_nodes.insert(index, node);

@@ -66,11 +66,11 @@ public:
     bool removeCurveAt(int i);
     bool removeCurve(orvane::OrvaneCurve *curve);
 
-    QList<IntersectionNode *> neighbours;  // in order of linking until sorted by angle
-    QList<orvane::OrvaneCurve *> curves;   // each once
+    QList<IntersectionNode *> neighbours; // in order of linking until sorted by angle
+    QList<orvane::OrvaneCurve *> curves;  // each once
     orvane::CurvePoint curvePoint;
-    orvane::Vector normal;                 // of the surface; zero = not known
-    int vertexIndex = -1;                  // in the output mesh; -1 until tracing numbers it
+    orvane::Vector normal;    // of the surface; zero = not known
+    int vertexIndex = -1;     // in the output mesh; -1 until tracing numbers it
     QList<bool> incomingUsed; // by neighbour: the edge from there to here has been arrived along
     QList<bool> outgoingUsed; // by neighbour: the edge from here to there belongs to a face or walk
 };

@@ -46,8 +46,7 @@ public:
     IntersectionSearch(const QList<OrvaneCurve *> &curves, QList<IntersectionNode *> &nodes,
                        float distance)
         : m_curves(curves), m_nodes(nodes), m_distance(distance)
-    {
-    }
+    {}
 
     void sampleCurves(float overrun);
     void findSelfIntersections();

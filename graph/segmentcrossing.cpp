@@ -9,10 +9,10 @@ using orvane::Vector;
 
 namespace {
 
-const float BoxSnap = 5e-5f;           // scene units
-const double ParallelDegrees = 1e-5;   // angle below which lines count as parallel
+const float BoxSnap = 5e-5f;         // scene units
+const double ParallelDegrees = 1e-5; // angle below which lines count as parallel
 const double RadiansPerDegree = 0.017453292519943295;
-const double MinimumLength = 1e-12;    // of a segment in its unit frame
+const double MinimumLength = 1e-12; // of a segment in its unit frame
 
 double parallelEpsilon()
 {

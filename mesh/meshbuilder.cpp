@@ -19,10 +19,10 @@ using orvane::Vector;
 
 namespace {
 
-const int ExpectedVertices = 100;                // count
-const int MaximumWholeCorners = 9;               // of a convex face
-const double ConcaveAngle = 3.041592653589793;   // radians, pi - 0.1
-const double AgreeingAngle = 2.827433388230814;  // radians, 0.9 pi
+const int ExpectedVertices = 100;               // count
+const int MaximumWholeCorners = 9;              // of a convex face
+const double ConcaveAngle = 3.041592653589793;  // radians, pi - 0.1
+const double AgreeingAngle = 2.827433388230814; // radians, 0.9 pi
 
 enum class MeshKind { None, Triangles, Quads, Mixed, Invalid };
 
@@ -159,8 +159,7 @@ orvane::Mesh *MeshBuilder::createMesh() const
     const MeshKind kind = kindOf(faces);
     if (kind == MeshKind::None || kind == MeshKind::Invalid)
         return nullptr;
-    const Topology::FaceType type =
-        kind == MeshKind::Quads ? Topology::Quads : Topology::Triangles;
+    const Topology::FaceType type = kind == MeshKind::Quads ? Topology::Quads : Topology::Triangles;
     const int count = meshFaceCount(faces, kind);
     QScopedPointer<orvane::Mesh> mesh(orvane::Kernel()->Scene()->CreateMesh(type));
     mesh->SetFaceCount(count);

@@ -55,8 +55,7 @@ ManualRetopoOperation::ManualRetopoOperation(int maximumEdges, float mergeDistan
       m_intersectionTolerance(intersectionTolerance),
       m_overrunTolerance(overrunTolerance),
       m_useSelfIntersections(useSelfIntersections)
-{
-}
+{}
 
 ManualRetopoOperation::ManualRetopoOperation(const QList<orvane::OrvaneCurve *> &curves,
                                              int maximumEdges, float mergeDistance,

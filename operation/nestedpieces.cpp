@@ -51,8 +51,8 @@ Face faceOf(const orvane::Mesh &mesh, int polygon)
 
 bool isInside(const orvane::AxisAlignedBoundingBox &box, const Vector &p)
 {
-    return box.minimum.x <= p.x && p.x <= box.maximum.x && box.minimum.y <= p.y &&
-           p.y <= box.maximum.y && box.minimum.z <= p.z && p.z <= box.maximum.z;
+    return box.minimum.x <= p.x && p.x <= box.maximum.x && box.minimum.y <= p.y
+           && p.y <= box.maximum.y && box.minimum.z <= p.z && p.z <= box.maximum.z;
 }
 
 // Seen along the face's normal, by the crossings of a ray with its sides.

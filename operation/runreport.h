@@ -22,7 +22,7 @@ struct PieceReport
     };
 
     int nodes = 0;
-    orvane::Vector place;        // position of the seed node, world space
+    orvane::Vector place; // position of the seed node, world space
     Outcome outcome = NoFace;
     QVector<int> facesByCorners; // index: number of corners; polygons of the mesh
     HoleCounts holes;

@@ -14,10 +14,10 @@
 
 namespace {
 
-const double Side = 100.0;       // of the lattice, scene units
-const int MeshSide = 150;        // quads along each side of the mesh
-const double Wave = 0.05;        // height of a wave, scene units
-const double WaveLength = 9.0;   // scene units
+const double Side = 100.0;                  // of the lattice, scene units
+const int MeshSide = 150;                   // quads along each side of the mesh
+const double Wave = 0.05;                   // height of a wave, scene units
+const double WaveLength = 9.0;              // scene units
 const double Degree = 0.017453292519943295; // radians
 
 struct Lattice

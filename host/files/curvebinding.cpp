@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/curvebinding.h"
 
-
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/geometry/surfacelocator.h>
 

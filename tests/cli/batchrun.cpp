@@ -100,8 +100,8 @@ void BatchTest::writeStrokes(const QString &name, const QVector<QVector<double>>
         QJsonArray points;
         for (int i = 0; i + 1 < stroke.size(); i += 2)
             points.append(QJsonArray{stroke[i], stroke[i + 1], 0.0});
-        curves.append(QJsonObject{{QStringLiteral("closed"), closed},
-                                  {QStringLiteral("points"), points}});
+        curves.append(
+            QJsonObject{{QStringLiteral("closed"), closed}, {QStringLiteral("points"), points}});
     }
     write(name, QJsonDocument(QJsonObject{{QStringLiteral("curves"), curves}}).toJson());
 }

@@ -6,10 +6,10 @@ namespace {
 // Bytes of a file, or none for a file that is missing.
 struct BadFile
 {
-    const char *test;   // name of the case
-    const char *bytes;  // null: no such file
+    const char *test;  // name of the case
+    const char *bytes; // null: no such file
     int exitCode;
-    const char *place;  // what the sentence must name beside the file
+    const char *place; // what the sentence must name beside the file
 };
 
 void PrintTo(const BadFile &bad, std::ostream *stream)
@@ -95,8 +95,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadFile{"curvesOfWrongType", "{\"curves\": 5}", 3, "curves"},
         BadFile{"curveOfWrongType", "{\"curves\": [{\"points\": []}, 7]}", 3, "curve 2"},
         BadFile{"pointOfTwo", "{\"curves\": [{\"points\": [[0, 0, 0], [1, 2]]}]}", 3, "point 2"},
-        BadFile{"pointOfText", "{\"curves\": [{\"name\": \"eye\", \"points\": [[0, \"x\", 0]]}]}", 3,
-                "eye"},
+        BadFile{"pointOfText", "{\"curves\": [{\"name\": \"eye\", \"points\": [[0, \"x\", 0]]}]}",
+                3, "eye"},
         BadFile{"tooLargeForAFloat", "{\"curves\": [{\"points\": [[0, 1e300, 0]]}]}", 3, "point 1"},
         BadFile{"notFinite", "{\"curves\": [{\"points\": [[0, 1e999, 0]]}]}", 3, ""},
         BadFile{"closedOfWrongType",
@@ -110,9 +110,9 @@ TEST_F(BadInput, outputInAFolderThatDoesNotExistIsRefused)
 {
     writePlane();
     writeNet();
-    const BatchResult result = run({QStringLiteral("build"), QStringLiteral("plane.obj"),
-                                    QStringLiteral("net.json"), QStringLiteral("-o"),
-                                    QStringLiteral("nowhere/out.obj")});
+    const BatchResult result =
+        run({QStringLiteral("build"), QStringLiteral("plane.obj"), QStringLiteral("net.json"),
+             QStringLiteral("-o"), QStringLiteral("nowhere/out.obj")});
     expectRefusal(result, 3, "nowhere/out.obj", "does not exist");
 }
 
@@ -120,17 +120,17 @@ TEST_F(BadInput, outputBelowAFileIsRefused)
 {
     writePlane();
     writeNet();
-    const BatchResult result = run({QStringLiteral("build"), QStringLiteral("plane.obj"),
-                                    QStringLiteral("net.json"), QStringLiteral("-o"),
-                                    QStringLiteral("net.json/out.obj")});
+    const BatchResult result =
+        run({QStringLiteral("build"), QStringLiteral("plane.obj"), QStringLiteral("net.json"),
+             QStringLiteral("-o"), QStringLiteral("net.json/out.obj")});
     expectRefusal(result, 3, "out.obj", "net.json is a file");
 }
 
 TEST_F(BadInput, outputOfAnUnknownKindIsRefusedBeforeTheWork)
 {
-    const BatchResult result = run({QStringLiteral("build"), QStringLiteral("missing.obj"),
-                                    QStringLiteral("missing.json"), QStringLiteral("-o"),
-                                    QStringLiteral("out.xyz")});
+    const BatchResult result =
+        run({QStringLiteral("build"), QStringLiteral("missing.obj"), QStringLiteral("missing.json"),
+             QStringLiteral("-o"), QStringLiteral("out.xyz")});
     expectRefusal(result, 3, "out.xyz", ".obj");
 }
 
@@ -138,9 +138,9 @@ TEST_F(BadInput, pictureOfAnotherKindIsRefused)
 {
     writePlane();
     writeNet();
-    expectRefusal(build(QStringLiteral("net.json"),
-                        {QStringLiteral("--picture"), QStringLiteral("p.jpg")}),
-                  3, "p.jpg", ".png");
+    expectRefusal(
+        build(QStringLiteral("net.json"), {QStringLiteral("--picture"), QStringLiteral("p.jpg")}),
+        3, "p.jpg", ".png");
 }
 
 TEST_F(BadInput, aFullDiskLeavesTheOldFileWhole)
@@ -155,10 +155,9 @@ TEST_F(BadInput, aFullDiskLeavesTheOldFileWhole)
     writeStrokes(QStringLiteral("dense.json"), strokes); // an output of some 20 KiB
     write(QStringLiteral("out.obj"), "an older mesh\n");
     const QStringList before = files();
-    const BatchResult result =
-        runWithFileLimit(4, {QStringLiteral("build"), QStringLiteral("plane.obj"),
-                             QStringLiteral("dense.json"), QStringLiteral("-o"),
-                             QStringLiteral("out.obj")});
+    const BatchResult result = runWithFileLimit(
+        4, {QStringLiteral("build"), QStringLiteral("plane.obj"), QStringLiteral("dense.json"),
+            QStringLiteral("-o"), QStringLiteral("out.obj")});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_TRUE(result.errors.contains(QStringLiteral("out.obj"))) << qPrintable(result.errors);
     EXPECT_TRUE(result.errors.contains(QStringLiteral("too large"))) << qPrintable(result.errors);

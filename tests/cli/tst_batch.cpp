@@ -22,9 +22,12 @@ protected:
     // Two quads at opposite corners of a crossing, which share nothing but its vertex.
     void writeBowtie() const
     {
-        writeStrokes(QStringLiteral("bowtie.json"),
-                     {{1.1, 5.1, 9.2, 5.1}, {5.2, 1.1, 5.2, 9.3}, {1.2, 2.1, 5.5, 2.1},
-                      {2.2, 1.2, 2.2, 5.5}, {4.8, 8.1, 9.1, 8.1}, {8.2, 4.7, 8.2, 9.1}});
+        writeStrokes(QStringLiteral("bowtie.json"), {{1.1, 5.1, 9.2, 5.1},
+                                                     {5.2, 1.1, 5.2, 9.3},
+                                                     {1.2, 2.1, 5.5, 2.1},
+                                                     {2.2, 1.2, 2.2, 5.5},
+                                                     {4.8, 8.1, 9.1, 8.1},
+                                                     {8.2, 4.7, 8.2, 9.1}});
     }
 };
 
@@ -71,9 +74,9 @@ TEST_F(Batch, theReportForMachinesHasEveryFigure)
 TEST_F(Batch, theSameInputTwiceGivesTheSameBytes)
 {
     writeNet();
-    const QStringList extras{QStringLiteral("--dump"), QStringLiteral("d.json"),
+    const QStringList extras{QStringLiteral("--dump"),    QStringLiteral("d.json"),
                              QStringLiteral("--picture"), QStringLiteral("p.png"),
-                             QStringLiteral("--size"), QStringLiteral("320x240")};
+                             QStringLiteral("--size"),    QStringLiteral("320x240")};
     QList<QByteArray> first;
     for (int round = 0; round < 2; ++round) {
         ASSERT_EQ(build(QStringLiteral("net.json"), extras).exitCode, 0);
@@ -164,8 +167,8 @@ TEST_F(Batch, faultsAreAcceptedLoudlyOrCostTheMesh)
     EXPECT_TRUE(exists(QStringLiteral("out.obj")));
 
     ASSERT_TRUE(QFile::remove(path(QStringLiteral("out.obj"))));
-    const BatchResult discarded = build(
-        QStringLiteral("bowtie.json"), {QStringLiteral("--on-faults"), QStringLiteral("discard")});
+    const BatchResult discarded = build(QStringLiteral("bowtie.json"),
+                                        {QStringLiteral("--on-faults"), QStringLiteral("discard")});
     EXPECT_EQ(discarded.exitCode, 4) << qPrintable(discarded.output);
     EXPECT_TRUE(discarded.output.contains(QStringLiteral("discarded for its faults")));
     EXPECT_FALSE(exists(QStringLiteral("out.obj")));
@@ -200,9 +203,11 @@ TEST_F(Batch, selfIntersectionsCountOnlyWhenAskedFor)
 
 TEST_F(Batch, theOverrunClosesAStrokeThatStopsShort)
 {
-    writeStrokes(QStringLiteral("short.json"),
-                 {{1, 2.1, 9, 2.1}, {1, 7.3, 9, 7.3}, {2.2, 1, 2.2, 9}, {7.4, 3, 7.4, 7.1},
-                  {6.0, 1.0, 6.0, 9.0}});
+    writeStrokes(QStringLiteral("short.json"), {{1, 2.1, 9, 2.1},
+                                                {1, 7.3, 9, 7.3},
+                                                {2.2, 1, 2.2, 9},
+                                                {7.4, 3, 7.4, 7.1},
+                                                {6.0, 1.0, 6.0, 9.0}});
     // The stroke at 7.4 reaches neither neighbour but with its overrun both.
     EXPECT_EQ(report(QStringLiteral("short.json"))[key("crossings")].toInt(), 6);
     EXPECT_EQ(report(QStringLiteral("short.json"),

@@ -48,8 +48,8 @@ TEST(Camera, thePointsJustFillTheFrame)
             ASSERT_TRUE(Frame.adjusted(-0.01, -0.01, 0.01, 0.01).contains(screen.x, screen.y));
             filled |= QRectF(screen.x - 0.01, screen.y - 0.01, 0.02, 0.02);
         }
-        EXPECT_TRUE(std::abs(filled.width() - Frame.width()) < 0.1 ||
-                    std::abs(filled.height() - Frame.height()) < 0.1);
+        EXPECT_TRUE(std::abs(filled.width() - Frame.width()) < 0.1
+                    || std::abs(filled.height() - Frame.height()) < 0.1);
     }
 }
 

@@ -22,8 +22,8 @@ protected:
                      const QStringList &more = {}) const
     {
         writePlane();
-        const BatchResult result = build(
-            curves, QStringList{QStringLiteral("--dump"), QStringLiteral("d.json")} + more);
+        const BatchResult result =
+            build(curves, QStringList{QStringLiteral("--dump"), QStringLiteral("d.json")} + more);
         EXPECT_EQ(result.exitCode, 0) << qPrintable(result.errors + result.output);
         return QJsonDocument::fromJson(read(QStringLiteral("d.json"))).object();
     }
@@ -65,8 +65,7 @@ TEST_F(Dump, curvePointsAreStoredBeforeAnyOverrun)
     const QJsonArray curves = json[key("curves")].toArray();
     ASSERT_EQ(curves.size(), 6);
     EXPECT_EQ(curves[0].toObject()[key("name")].toString(), QStringLiteral("curve 1"));
-    const QJsonObject first =
-        curves[0].toObject()[key("points")].toArray()[0].toObject();
+    const QJsonObject first = curves[0].toObject()[key("points")].toArray()[0].toObject();
     EXPECT_NEAR(first[key("position")].toArray()[0].toDouble(), 1.05, 1e-6);
     EXPECT_TRUE(first[key("onFace")].toBool());
     EXPECT_EQ(first[key("normal")].toArray(), (QJsonArray{0, 0, 1}));
@@ -131,11 +130,13 @@ TEST_F(Dump, meshesAreThoseOfTheFile)
 
 TEST_F(Dump, aMixedMeshMarksItsFakeTriangles)
 {
-    writeStrokes(QStringLiteral("mixed.json"),
-                 {{1, 2.1, 9, 2.1}, {1, 5.3, 9, 5.3}, {2.2, 1, 2.2, 9}, {5.4, 1, 5.4, 9},
-                  {5.0, 0.9, 9.1, 6.1}});
-    const QJsonObject mesh = dump(QStringLiteral("mixed.json"), {QStringLiteral("--merge"),
-                                                                 QStringLiteral("1")})[key("meshes")]
+    writeStrokes(QStringLiteral("mixed.json"), {{1, 2.1, 9, 2.1},
+                                                {1, 5.3, 9, 5.3},
+                                                {2.2, 1, 2.2, 9},
+                                                {5.4, 1, 5.4, 9},
+                                                {5.0, 0.9, 9.1, 6.1}});
+    const QJsonObject mesh = dump(QStringLiteral("mixed.json"),
+                                  {QStringLiteral("--merge"), QStringLiteral("1")})[key("meshes")]
                                  .toArray()[0]
                                  .toObject();
     EXPECT_EQ(mesh[key("kind")].toString(), QStringLiteral("mixed"));
@@ -147,9 +148,9 @@ TEST_F(Dump, aMixedMeshMarksItsFakeTriangles)
 TEST_F(Dump, aClosedCurveHasItsClosingPoint)
 {
     writePlane();
-    writeStrokes(QStringLiteral("loops.json"),
-                 {{2.1, 2.2, 7.3, 2.4, 7.1, 7.2, 2.3, 7.1}, {4.1, 4.2, 9.3, 4.4, 9.1, 9.2, 4.3, 9.1}},
-                 true);
+    writeStrokes(
+        QStringLiteral("loops.json"),
+        {{2.1, 2.2, 7.3, 2.4, 7.1, 7.2, 2.3, 7.1}, {4.1, 4.2, 9.3, 4.4, 9.1, 9.2, 4.3, 9.1}}, true);
     const BatchResult result =
         build(QStringLiteral("loops.json"), {QStringLiteral("--dump"), QStringLiteral("d.json")});
     const QJsonObject json = QJsonDocument::fromJson(read(QStringLiteral("d.json"))).object();

@@ -131,8 +131,8 @@ TEST(SegmentCrossing, agreesWithExtendedPrecisionOn100000PairsButWithinRoundingO
         ASSERT_NEAR(double(tb), double(exact.t), double(rounding)) << "pair " << i;
         const Wide place = along(wide(pair.b0), e, exact.t);
         const Wide off = minus(wide(point), place);
-        const long double reach = sqrtl(dot(e, e)) * rounding +
-                                  4.0L * (long double)(FLT_EPSILON)*sqrtl(dot(place, place));
+        const long double reach = sqrtl(dot(e, e)) * rounding
+                                  + 4.0L * (long double)(FLT_EPSILON)*sqrtl(dot(place, place));
         ASSERT_LE(double(sqrtl(dot(off, off))), double(reach)) << "pair " << i;
     }
     std::cout << judged << " judged, " << crossing << " of them cross" << std::endl;

@@ -331,8 +331,12 @@ TEST(Holes, aThinStarIsTakenForTheOutsideAndStaysOpen)
 {
     // Its notches turn by more than its tips do, so that the outer cycle passes for the inner one.
     const auto thinStar = []() {
-        return polygonGraph({{10, 0, 0}, {0.5f, 0.9f, 0}, {-5, 8.7f, 0},
-                             {-1, 0, 0}, {-5, -8.7f, 0}, {0.5f, -0.9f, 0}});
+        return polygonGraph({{10, 0, 0},
+                             {0.5f, 0.9f, 0},
+                             {-5, 8.7f, 0},
+                             {-1, 0, 0},
+                             {-5, -8.7f, 0},
+                             {0.5f, -0.9f, 0}});
     };
     const Traced traced = trace(thinStar(), 6);
     EXPECT_EQ(traced.faces.size(), 1);

@@ -26,8 +26,7 @@ using Face = QVector<int>;
 using Faces = QList<Face>;
 
 class MeshBuilding : public SceneCleaner
-{
-};
+{};
 
 MeshBuilder builderOf(const QVector<Vector> &positions, const QList<Face> &polygons = {})
 {

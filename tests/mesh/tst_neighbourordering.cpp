@@ -233,8 +233,7 @@ TEST(NeighbourOrdering, aZeroNormalIsMadeFromTheCornersWeightedByTheirAnglesWith
     EXPECT_NE(orderOf(weighted, 0), sortedOrder(above));
 }
 
-TEST(NeighbourOrdering,
-     aNeighbourAtTheReferenceComesFirstAndOneAHairClockwiseOfItComesLast)
+TEST(NeighbourOrdering, aNeighbourAtTheReferenceComesFirstAndOneAHairClockwiseOfItComesLast)
 {
     for (float hair : {1e-2f, 1e-4f, 1e-7f}) {
         // The reference of node 1, east, is north.

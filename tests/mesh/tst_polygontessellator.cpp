@@ -88,9 +88,8 @@ TEST(PolygonTessellator, anLShapedHexagonGivesFourTrianglesAndNeverOneAcrossTheN
             ASSERT_EQ(corners.size(), 12) << first;
             expectCounterClockwise(turned, corners);
             for (int i = 0; i < corners.size(); i += 3) {
-                const Vector middle = (turned[corners[i]] + turned[corners[i + 1]]
-                                       + turned[corners[i + 2]])
-                                      / 3.0f;
+                const Vector middle =
+                    (turned[corners[i]] + turned[corners[i + 1]] + turned[corners[i + 2]]) / 3.0f;
                 EXPECT_FALSE(middle.x > 1.0f && middle.y > 1.0f) << "across the notch";
             }
         }
@@ -126,9 +125,9 @@ TEST(PolygonTessellator, aPointOnAnyEdgeOrCornerOfAnEarBlocksIt)
     const auto blocks = [&](const Vector &point) {
         return !tessellatorOf({{0, 0, 0}, {2, 0, 0}, {2, 2, 0}, point}).snip(0, 1, 2, 4, order);
     };
-    for (const Vector &point : {Vector(1, 0, 0), Vector(2, 1, 0), Vector(1, 1, 0),
-                                Vector(1.5f, 1, 0), Vector(0, 0, 0), Vector(2, 0, 0),
-                                Vector(2, 2, 0)})
+    for (const Vector &point :
+         {Vector(1, 0, 0), Vector(2, 1, 0), Vector(1, 1, 0), Vector(1.5f, 1, 0), Vector(0, 0, 0),
+          Vector(2, 0, 0), Vector(2, 2, 0)})
         EXPECT_TRUE(blocks(point)) << point.x << ", " << point.y;
     for (const Vector &point : {Vector(1, -0.01f, 0), Vector(2.01f, 1, 0), Vector(0.99f, 1.01f, 0)})
         EXPECT_FALSE(blocks(point)) << point.x << ", " << point.y;
@@ -188,8 +187,8 @@ TEST(PolygonTessellator, aCornerIsNoEarBelowTheSmallestCross)
 
 TEST(PolygonTessellator, aPolygonThatCrossesItselfKeepsTheTrianglesFoundSoFar)
 {
-    const QVector<Vector> pentagram{{0, 1, 0}, {-0.59f, -0.81f, 0}, {0.95f, 0.31f, 0},
-                                    {-0.95f, 0.31f, 0}, {0.59f, -0.81f, 0}};
+    const QVector<Vector> pentagram{
+        {0, 1, 0}, {-0.59f, -0.81f, 0}, {0.95f, 0.31f, 0}, {-0.95f, 0.31f, 0}, {0.59f, -0.81f, 0}};
     EXPECT_LT(trianglesOf(pentagram).size(), 9);
     const QVector<Vector> bowTie{{0, 0, 0}, {2, 2, 0}, {2, 0, 0}, {0, 1, 0}};
     EXPECT_LT(trianglesOf(bowTie).size(), 6);

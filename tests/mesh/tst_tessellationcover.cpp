@@ -71,12 +71,12 @@ GEOSGeometry *unionOf(const Geos &geos, const Points &points, const QList<int> &
 {
     std::vector<GEOSGeometry *> triangles;
     for (int i = 0; i < corners.size(); i += 3) {
-        triangles.push_back(polygonOf(geos, {points[corners[i]], points[corners[i + 1]],
-                                             points[corners[i + 2]]}));
+        triangles.push_back(
+            polygonOf(geos, {points[corners[i]], points[corners[i + 1]], points[corners[i + 2]]}));
     }
-    const Shape all(geos, GEOSGeom_createCollection_r(geos.context(), GEOS_MULTIPOLYGON,
-                                                      triangles.data(),
-                                                      unsigned(triangles.size())));
+    const Shape all(geos,
+                    GEOSGeom_createCollection_r(geos.context(), GEOS_MULTIPOLYGON, triangles.data(),
+                                                unsigned(triangles.size())));
     return GEOSUnaryUnion_r(geos.context(), all.get());
 }
 
@@ -109,8 +109,7 @@ void expectCover(const Geos &geos, const Points &points)
     EXPECT_NEAR(std::fabs(double(tessellator.area())), area, 1e-3 * area);
     const Shape cover(geos, unionOf(geos, points, corners));
     EXPECT_NEAR(cover.area(), area, 1e-9 * area);
-    const Shape difference(
-        geos, GEOSSymDifference_r(geos.context(), cover.get(), polygon.get()));
+    const Shape difference(geos, GEOSSymDifference_r(geos.context(), cover.get(), polygon.get()));
     EXPECT_NEAR(difference.area(), 0.0, 1e-9 * area);
 }
 

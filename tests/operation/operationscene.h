@@ -45,8 +45,8 @@ struct Created
 
     bool operator==(const Created &other) const
     {
-        return geometryID == other.geometryID && placementID == other.placementID &&
-               meshID == other.meshID && bytes == other.bytes;
+        return geometryID == other.geometryID && placementID == other.placementID
+               && meshID == other.meshID && bytes == other.bytes;
     }
 
     int geometryID;

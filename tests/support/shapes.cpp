@@ -233,6 +233,6 @@ Matrix randomPlacement(std::mt19937 &random)
     const float z = factor();
     const Vector axis = randomVector(random) + Vector(0.0f, 0.0f, 1.5f);
     const float angle = randomBetween(random, -Pi, Pi);
-    return Matrix::Scaling({x, y, z}) * Matrix::Rotation(axis, angle) *
-           Matrix::Translation(randomVector(random, 10.0f));
+    return Matrix::Scaling({x, y, z}) * Matrix::Rotation(axis, angle)
+           * Matrix::Translation(randomVector(random, 10.0f));
 }

@@ -38,8 +38,8 @@ CurvePoint Sheet::point(const Vector &place) const
         return CurvePoint(m_geometry->Placement()->ToWorld(place));
     const int column = qMin(int(place.x), m_size - 1);
     const int row = qMin(int(place.y), m_size - 1);
-    const Vector lift = m_geometry->Placement()->ToWorld(place) -
-                        m_geometry->Placement()->ToWorld(Vector(place.x, place.y, 0.0f));
+    const Vector lift = m_geometry->Placement()->ToWorld(place)
+                        - m_geometry->Placement()->ToWorld(Vector(place.x, place.y, 0.0f));
     orvane::SurfacePoint surface(*mesh(), row * m_size + column, place.x - float(column),
                                  place.y - float(row));
     surface.Shift(lift);
@@ -84,8 +84,8 @@ OrvaneCurve *Sheet::wavy(const Vector &from, const Vector &to, int points, float
     QVector<Vector> places;
     for (int i = 0; i < points; ++i) {
         const float t = float(i) / float(points - 1);
-        places.append(from + (to - from) * t +
-                      side * (amplitude * std::sin(2.0f * Pi * waves * t)));
+        places.append(from + (to - from) * t
+                      + side * (amplitude * std::sin(2.0f * Pi * waves * t)));
     }
     return stroke(places);
 }

@@ -94,9 +94,9 @@ TEST(FaultTexts, areReadWordForWord)
     const ValidateMeshFeedbackmDialog dialog(nullptr, QString(), AllFaults);
     for (int row = 0; row < 12; ++row) {
         ASSERT_NE(rowText(dialog, row), nullptr) << "row " << row;
-        EXPECT_EQ(read(rowText(dialog, row)->text()),
-                  QLatin1String(Rows[row].title) + QLatin1Char(' ')
-                      + QLatin1String(Rows[row].text));
+        EXPECT_EQ(read(rowText(dialog, row)->text()), QLatin1String(Rows[row].title)
+                                                          + QLatin1Char(' ')
+                                                          + QLatin1String(Rows[row].text));
     }
     EXPECT_EQ(rowText(dialog, 12), nullptr);
 }

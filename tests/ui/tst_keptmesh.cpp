@@ -107,9 +107,9 @@ protected:
 
 TEST_F(KeptMesh, withHighValenceAndADegenerateFaceShowsTwoRows)
 {
-    EXPECT_EQ(titlesOnTheWay(wheelAndFlatTriangle()),
-              (QStringList{QStringLiteral("High-valence vertex"),
-                           QStringLiteral("Degenerated Face")}));
+    EXPECT_EQ(
+        titlesOnTheWay(wheelAndFlatTriangle()),
+        (QStringList{QStringLiteral("High-valence vertex"), QStringLiteral("Degenerated Face")}));
 }
 
 TEST_F(KeptMesh, withATShapeAndAVertexSpliceShowsTheTShapeFirst)

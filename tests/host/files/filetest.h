@@ -7,9 +7,9 @@
 #include <orvane/math/vector.h>
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QStringList>
-#include <QDir>
 #include <QTemporaryDir>
 #include <QVector>
 

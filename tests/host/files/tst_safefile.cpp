@@ -72,16 +72,17 @@ TEST_F(SafeFile, fullDiskIsNoticedWhenOnlyTheLastBytesAreMissing)
 TEST_F(SafeFile, missingFolderIsNamed)
 {
     const QString folder = path(QStringLiteral("missing"));
-    EXPECT_EQ(
-        writeError(folder + QStringLiteral("/a.txt"), "x"),
-        QStringLiteral("%1/a.txt: the folder %1 does not exist; expected one that does.").arg(folder));
+    EXPECT_EQ(writeError(folder + QStringLiteral("/a.txt"), "x"),
+              QStringLiteral("%1/a.txt: the folder %1 does not exist; expected one that does.")
+                  .arg(folder));
 }
 
 TEST_F(SafeFile, parentThatIsAFileIsNamed)
 {
     const QString parent = file(QStringLiteral("parent"), "x");
-    EXPECT_EQ(writeError(parent + QStringLiteral("/a.txt"), "x"),
-              QStringLiteral("%1/a.txt: %1 is a file; expected a folder to write into.").arg(parent));
+    EXPECT_EQ(
+        writeError(parent + QStringLiteral("/a.txt"), "x"),
+        QStringLiteral("%1/a.txt: %1 is a file; expected a folder to write into.").arg(parent));
     EXPECT_EQ(bytesOf(parent), "x");
 }
 

@@ -103,8 +103,8 @@ double meets(const Place &origin, const Place &direction, const Triangle &triang
     double volume[3];
     for (int i = 0; i < 3; ++i)
         volume[i] = dot(direction, cross(c[i] - origin, c[(i + 1) % 3] - origin));
-    const bool inside = (volume[0] > 0 && volume[1] > 0 && volume[2] > 0) ||
-                        (volume[0] < 0 && volume[1] < 0 && volume[2] < 0);
+    const bool inside = (volume[0] > 0 && volume[1] > 0 && volume[2] > 0)
+                        || (volume[0] < 0 && volume[1] < 0 && volume[2] < 0);
     if (!inside)
         return -1;
     const Place normal = cross(c[1] - c[0], c[2] - c[0]);

@@ -23,9 +23,9 @@ bool areDistinct(QVector<double> directions)
         return true;
     std::sort(directions.begin(), directions.end());
     directions.append(directions.first() + FullTurn);
-    return std::adjacent_find(directions.cbegin(), directions.cend(), [](double a, double b) {
-               return b - a < SameDirection;
-           }) == directions.cend();
+    return std::adjacent_find(directions.cbegin(), directions.cend(),
+                              [](double a, double b) { return b - a < SameDirection; })
+           == directions.cend();
 }
 
 bool nodesCoincide(const PlanarGraph &graph)

@@ -101,8 +101,8 @@ PlanarStroke figureEight(std::mt19937 &random)
     stroke.closed = intBetween(random, 0, 1) == 1;
     for (int i = 0; i < points; ++i) {
         const float t = 2.0f * Pi * float(i) / float(points) + phase;
-        stroke.places.append(center + onCircle(turn, length * std::sin(t)) +
-                             onCircle(turn + 0.5f * Pi, width * std::sin(2.0f * t)));
+        stroke.places.append(center + onCircle(turn, length * std::sin(t))
+                             + onCircle(turn + 0.5f * Pi, width * std::sin(2.0f * t)));
     }
     return stroke;
 }

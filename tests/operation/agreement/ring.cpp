@@ -7,8 +7,9 @@ namespace {
 
 double triangleArea(const orvane::Vector &a, const orvane::Vector &b, const orvane::Vector &c)
 {
-    return 0.5 * ((double(b.x) - double(a.x)) * (double(c.y) - double(a.y)) -
-                  (double(c.x) - double(a.x)) * (double(b.y) - double(a.y)));
+    return 0.5
+           * ((double(b.x) - double(a.x)) * (double(c.y) - double(a.y))
+              - (double(c.x) - double(a.x)) * (double(b.y) - double(a.y)));
 }
 
 } // namespace

@@ -118,8 +118,8 @@ protected:
     FaceComparisonTeeth()
     {
         std::mt19937 random(testSeed());
-        while (m_shells.shells.size() < 100 ||
-               m_shells.leftOut.count(LeftOut::No) < m_shells.shells.size()) {
+        while (m_shells.shells.size() < 100
+               || m_shells.leftOut.count(LeftOut::No) < m_shells.shells.size()) {
             m_scene = randomScene(1, random);
             const ScenePiece piece = buildScene(m_scene, Limit).value(0);
             if (flawOf(piece.graph) == Flaw::None)

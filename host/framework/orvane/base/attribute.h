@@ -53,8 +53,7 @@ class ORVANE_EXPORT AttributeInstance : public Attribute
 public:
     AttributeInstance(Node *owner, const QString &id, const T &value = T())
         : Attribute(owner, id), m_value(value)
-    {
-    }
+    {}
 
     const T &Value() const { return m_value; }
 

@@ -14,16 +14,14 @@ Node::Node() = default;
 
 Node::Node(const QString &stringID, const QString &displayName)
     : m_stringID(stringID), m_displayName(displayName)
-{
-}
+{}
 
 Node::Node(const Node &other)
     : m_name(other.m_name),
       m_stringID(other.m_stringID),
       m_displayName(other.m_displayName),
       m_helpID(other.m_helpID)
-{
-}
+{}
 
 Node &Node::operator=(const Node &other)
 {
@@ -40,17 +38,11 @@ Node::~Node()
         NodeTable::Instance().Leave(this);
 }
 
-void Node::Initialize()
-{
-}
+void Node::Initialize() {}
 
-void Node::OnNodeEvent(const Attribute &, NodeEventType)
-{
-}
+void Node::OnNodeEvent(const Attribute &, NodeEventType) {}
 
-void Node::OnEvent(const EventGate &)
-{
-}
+void Node::OnEvent(const EventGate &) {}
 
 QString Node::Name() const
 {

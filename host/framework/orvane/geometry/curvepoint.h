@@ -13,8 +13,7 @@ struct CurvePoint
     explicit CurvePoint(const Vector &world) : position(world) {}
     explicit CurvePoint(const SurfacePoint &point)
         : position(point.WorldPosition()), surfacePoint(point)
-    {
-    }
+    {}
 
     Vector position; // world space
     SurfacePoint surfacePoint;

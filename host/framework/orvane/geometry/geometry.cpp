@@ -8,9 +8,7 @@
 
 namespace orvane {
 
-Geometry::Geometry() : m_placement(new orvane::Placement)
-{
-}
+Geometry::Geometry() : m_placement(new orvane::Placement) {}
 
 Geometry::~Geometry()
 {

@@ -40,8 +40,7 @@ struct Step
         : x(double(to.x) - double(from.x)),
           y(double(to.y) - double(from.y)),
           z(double(to.z) - double(from.z))
-    {
-    }
+    {}
 
     double x;
     double y;

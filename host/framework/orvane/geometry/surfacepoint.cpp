@@ -25,7 +25,9 @@ CornerWeights cornerWeights(bool quad, float u, float v)
 
 Vector faceNormal(const Mesh &mesh, int face)
 {
-    const auto corner = [&](int i) { return mesh.WorldVertexPosition(mesh.VertexIndex(face, i)); };
+    const auto corner = [&](int i) {
+        return mesh.WorldVertexPosition(mesh.VertexIndex(face, i));
+    };
     const Vector area = mesh.IsQuads() ? (corner(2) - corner(0)) & (corner(3) - corner(1))
                                        : (corner(1) - corner(0)) & (corner(2) - corner(0));
     return Normalized(area);

@@ -30,8 +30,7 @@ Kernel::Kernel()
       m_interface(m_silentInterface.data()),
       m_viewPort(m_silentViewPort.data()),
       m_command(&m_commandNode, QStringLiteral("command"))
-{
-}
+{}
 
 Kernel::~Kernel() = default;
 

@@ -5,9 +5,7 @@
 
 namespace orvane {
 
-Preferences::Preferences() : renderMeshFaults(this, QStringLiteral("Render Mesh Faults"), false)
-{
-}
+Preferences::Preferences() : renderMeshFaults(this, QStringLiteral("Render Mesh Faults"), false) {}
 
 void Preferences::Load(const QSettings &settings)
 {

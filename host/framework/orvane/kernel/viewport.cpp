@@ -3,8 +3,6 @@
 
 namespace orvane {
 
-void ViewPort::Redraw(RedrawType, float, float, float, float)
-{
-}
+void ViewPort::Redraw(RedrawType, float, float, float, float) {}
 
 } // namespace orvane

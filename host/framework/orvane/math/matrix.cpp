@@ -125,12 +125,11 @@ bool Matrix::Invert()
 
 Vector Matrix::Transform(const Vector &v, float w) const
 {
-    return {v.x * m_element[0][0] + v.y * m_element[1][0] + v.z * m_element[2][0]
-                + w * m_element[3][0],
-            v.x * m_element[0][1] + v.y * m_element[1][1] + v.z * m_element[2][1]
-                + w * m_element[3][1],
-            v.x * m_element[0][2] + v.y * m_element[1][2] + v.z * m_element[2][2]
-                + w * m_element[3][2]};
+    return {
+        v.x * m_element[0][0] + v.y * m_element[1][0] + v.z * m_element[2][0] + w * m_element[3][0],
+        v.x * m_element[0][1] + v.y * m_element[1][1] + v.z * m_element[2][1] + w * m_element[3][1],
+        v.x * m_element[0][2] + v.y * m_element[1][2] + v.z * m_element[2][2]
+            + w * m_element[3][2]};
 }
 
 Matrix Matrix::operator*(const Matrix &other) const
