@@ -123,6 +123,10 @@ void BuildJob::noteMeshes(const ManualRetopoOperation &operation)
             made.faultBits |= fault.bit;
             made.faults += faultInWords(fault);
         }
+        if (made.faultBits != 0) // said here too: the report may go where nobody looks
+            printLine(stderr, QStringLiteral("WARNING: the mesh \"%1\" has faults and was accepted "
+                                             "with them; --on-faults discard refuses such meshes.")
+                                  .arg(made.name));
         m_report.meshes.append(made);
     }
 }

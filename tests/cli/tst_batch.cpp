@@ -164,6 +164,8 @@ TEST_F(Batch, faultsAreAcceptedLoudlyOrCostTheMesh)
     const BatchResult accepted = build(QStringLiteral("bowtie.json"));
     EXPECT_EQ(accepted.exitCode, 0) << qPrintable(accepted.output);
     EXPECT_TRUE(accepted.output.contains(QStringLiteral("FAULTS"))) << qPrintable(accepted.output);
+    EXPECT_TRUE(accepted.errors.startsWith(QStringLiteral("WARNING: the mesh \"plane-Retopo\"")))
+        << qPrintable(accepted.errors);
     EXPECT_TRUE(exists(QStringLiteral("out.obj")));
 
     ASSERT_TRUE(QFile::remove(path(QStringLiteral("out.obj"))));
