@@ -48,7 +48,10 @@ bool BuildJob::outputsCanBeWritten(QString *error) const
         return false;
     if (!m_options.picture.isEmpty() && !isPictureOutput(m_options.picture, error))
         return false;
-    return m_options.dump.isEmpty() || orvane::isPlaceForFile(m_options.dump, error);
+    if (!m_options.dump.isEmpty() && !orvane::isPlaceForFile(m_options.dump, error))
+        return false;
+    return areOutputsApart({m_options.mesh, m_options.curves},
+                           {m_options.output, m_options.dump, m_options.picture}, error);
 }
 
 bool BuildJob::read(QString *error)

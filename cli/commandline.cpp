@@ -2,7 +2,6 @@
 #include "cli/commandline.h"
 
 #include <QCommandLineParser>
-#include <QLocale>
 
 #include <cmath>
 
@@ -86,7 +85,7 @@ public:
     float percent(const char *name, float maximum)
     {
         bool ok = false;
-        const float number = QLocale::c().toFloat(value(name), &ok);
+        const float number = value(name).toFloat(&ok);
         if (!ok || !std::isfinite(number) || number < 0.0f || number > maximum)
             fail(QStringLiteral("--%1: \"%2\" is not a number from 0 to %3.")
                      .arg(text(name), value(name))

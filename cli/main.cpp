@@ -17,10 +17,22 @@
 
 namespace {
 
-// What Qt finds worth saying about platforms and folders is for the log, not for the user.
-void toLog(QtMsgType, const QMessageLogContext &, const QString &message)
+// What Qt finds worth saying about platforms and folders is for the log, not for the user; but for
+// what ends the process.
+void toLog(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     orvane::log(message);
+    if (type == QtFatalMsg)
+        printLine(stderr, message);
+}
+
+// A report that could not be written must not pass for one that was.
+int afterOutput(int code)
+{
+    if (std::ferror(stdout) == 0)
+        return code;
+    printLine(stderr, QStringLiteral("quillmesh: the report cannot be written to the output."));
+    return code == ExitDone ? ExitFileTrouble : code;
 }
 
 // Help goes to the output, a mistake to the error stream.
@@ -95,7 +107,7 @@ int main(int argc, char **argv)
     BatchInterface interface;
     orvane::Kernel()->SetInterface(&interface);
     DialogAnswers answers;
-    const int code = runCommand(application.arguments().mid(1), answers);
+    const int code = afterOutput(runCommand(application.arguments().mid(1), answers));
     orvane::Kernel()->Scene()->Clear();
     orvane::Kernel()->SetInterface(nullptr);
     return code;

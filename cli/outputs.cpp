@@ -9,6 +9,19 @@
 #include <QFileInfo>
 #include <QImage>
 
+namespace {
+
+// The same for every way to write a path, also that of a file that is still to be made.
+QString placeOf(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.exists())
+        return file.canonicalFilePath();
+    return QFileInfo(file.absolutePath()).canonicalFilePath() + QLatin1Char('/') + file.fileName();
+}
+
+} // namespace
+
 bool isMeshOutput(const QString &path, QString *error)
 {
     return orvane::isWritableMeshFormat(path, error) && orvane::isPlaceForFile(path, error);
@@ -21,6 +34,25 @@ bool isPictureOutput(const QString &path, QString *error)
     *error = orvane::aboutFile(
         path, QStringLiteral("pictures are written as .png; expected a name that ends so."));
     return false;
+}
+
+bool areOutputsApart(const QStringList &inputs, const QStringList &outputs, QString *error)
+{
+    QStringList taken;
+    for (const QString &input : inputs)
+        taken.append(placeOf(input));
+    for (const QString &output : outputs) {
+        if (output.isEmpty())
+            continue;
+        if (taken.contains(placeOf(output))) {
+            *error = orvane::aboutFile(
+                output, QStringLiteral("this file is read or written by the same run already; "
+                                       "expected another name."));
+            return false;
+        }
+        taken.append(placeOf(output));
+    }
+    return true;
 }
 
 bool writeImage(const QImage &image, const QString &path, QString *error)

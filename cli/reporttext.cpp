@@ -55,18 +55,21 @@ QString pieceLines(const RunReport &run)
     QString text;
     for (int i = 0; i < run.pieces.size(); ++i) {
         const PieceReport &piece = run.pieces[i];
-        if (piece.outcome != PieceReport::Built)
+        const bool built = piece.outcome == PieceReport::Built;
+        if (!built)
             text += line("", QStringLiteral("piece %1 (%2 crossings, at %3) made no mesh: %4")
                                  .arg(i)
                                  .arg(piece.nodes)
                                  .arg(placeInWords(piece.place), pieceFailureInWords(piece)));
         if (piece.inFaceOfPiece >= 0)
-            text += line("warning",
-                         QStringLiteral("piece %1 (at %2) lies inside a face of piece %3: it is no "
-                                        "hole there, its mesh lies over that face")
-                             .arg(i)
-                             .arg(placeInWords(piece.place))
-                             .arg(piece.inFaceOfPiece));
+            text += line(
+                "warning",
+                QStringLiteral("piece %1 (at %2) lies inside a face of piece %3: it is no "
+                               "hole there%4")
+                    .arg(i)
+                    .arg(placeInWords(piece.place))
+                    .arg(piece.inFaceOfPiece)
+                    .arg(built ? QStringLiteral(", its mesh lies over that face") : QString()));
     }
     return text;
 }

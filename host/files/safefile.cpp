@@ -32,6 +32,9 @@ bool isPlaceForFile(const QString &path, QString *error)
     if (path.isEmpty() || info.fileName().isEmpty() || info.isDir())
         return refuse(path, QStringLiteral("this is a folder; expected the name of a file."),
                       error);
+    // Renaming over a device would put a file in its place, for everyone on the machine.
+    if (info.exists() && !info.isFile())
+        return refuse(path, QStringLiteral("this is a device or a pipe; expected a file."), error);
     const QFileInfo folder(info.absolutePath());
     const QString name = QDir::toNativeSeparators(info.path());
     if (!folder.exists()) {

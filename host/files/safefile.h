@@ -11,8 +11,8 @@ namespace orvane {
 //! A sentence about a file: its path, a colon, the text.
 ORVANE_FILES_EXPORT QString aboutFile(const QString &path, const QString &text);
 
-//! Can there be a file of that path: is its folder there, and the path no folder itself? False,
-//! and one sentence in *error, when not. Nothing is touched.
+//! Can there be a file of that path: is its folder there, and the path no folder or device itself?
+//! False, and one sentence in *error, when not. Nothing is touched.
 ORVANE_FILES_EXPORT bool isPlaceForFile(const QString &path, QString *error);
 
 //! A message of someone else's, to be built into a sentence.

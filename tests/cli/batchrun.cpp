@@ -27,8 +27,17 @@ BatchResult BatchTest::run(const QStringList &words) const
 
 BatchResult BatchTest::runWithFileLimit(int kibibytes, const QStringList &words) const
 {
-    // $0 is the program, "$@" its words: none of them passes through the shell's reading.
-    const QString script = QStringLiteral("ulimit -f %1; exec \"$0\" \"$@\"").arg(kibibytes);
+    return runInShell(QStringLiteral("ulimit -f %1; exec \"$0\" \"$@\"").arg(kibibytes), words);
+}
+
+BatchResult BatchTest::runInto(const QString &report, const QStringList &words) const
+{
+    return runInShell(QStringLiteral("exec \"$0\" \"$@\" >'%1'").arg(report), words);
+}
+
+// $0 is the program, "$@" its words: none of them passes through the shell's reading.
+BatchResult BatchTest::runInShell(const QString &script, const QStringList &words) const
+{
     return start(QStringLiteral("bash"),
                  QStringList{QStringLiteral("-c"), script, QStringLiteral(QUILLMESH_PROGRAM)}
                      + words);

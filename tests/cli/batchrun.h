@@ -26,6 +26,9 @@ protected:
     //! As run, but no file may grow beyond the limit: what a full disk looks like to a program.
     BatchResult runWithFileLimit(int kibibytes, const QStringList &words) const;
 
+    //! As run, with the report going to a file of any path.
+    BatchResult runInto(const QString &report, const QStringList &words) const;
+
     QString path(const QString &name) const { return m_folder.filePath(name); }
     bool exists(const QString &name) const;
     QByteArray read(const QString &name) const;
@@ -45,6 +48,7 @@ protected:
     BatchResult build(const QString &curves, const QStringList &more = {}) const;
 
 private:
+    BatchResult runInShell(const QString &script, const QStringList &words) const;
     BatchResult start(const QString &program, const QStringList &words) const;
 
     QTemporaryDir m_folder;

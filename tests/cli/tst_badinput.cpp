@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/cli/batchrun.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 namespace {
 
 // Bytes of a file, or none for a file that is missing.
@@ -141,6 +144,52 @@ TEST_F(BadInput, pictureOfAnotherKindIsRefused)
     expectRefusal(
         build(QStringLiteral("net.json"), {QStringLiteral("--picture"), QStringLiteral("p.jpg")}),
         3, "p.jpg", ".png");
+}
+
+TEST_F(BadInput, outputOverAnInputOrAnotherOutputIsRefused)
+{
+    writePlane();
+    writeNet();
+    const QByteArray plane = read(QStringLiteral("plane.obj"));
+    const QByteArray net = read(QStringLiteral("net.json"));
+    const QStringList words{QStringLiteral("build"), QStringLiteral("plane.obj"),
+                            QStringLiteral("net.json"), QStringLiteral("-o")};
+    expectRefusal(run(words + QStringList{QStringLiteral("./plane.obj")}), 3, "plane.obj",
+                  "another name");
+    EXPECT_EQ(read(QStringLiteral("plane.obj")), plane);
+    const QString dump = QStringLiteral("--dump");
+    expectRefusal(build(QStringLiteral("net.json"), {dump, QStringLiteral("net.json")}), 3,
+                  "net.json", "another name");
+    EXPECT_EQ(read(QStringLiteral("net.json")), net);
+    expectRefusal(build(QStringLiteral("net.json"), {dump, path(QStringLiteral("out.obj"))}), 3,
+                  "out.obj", "another name");
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("plane.obj")), path(QStringLiteral("link.obj"))));
+    expectRefusal(run(words + QStringList{QStringLiteral("link.obj")}), 3, "link.obj",
+                  "another name");
+    EXPECT_EQ(read(QStringLiteral("plane.obj")), plane);
+}
+
+TEST_F(BadInput, aReportThatCannotBeWrittenIsFileTrouble)
+{
+    const QFileInfo full(QStringLiteral("/dev/full"));
+    if (!full.exists())
+        GTEST_SKIP() << "this machine has no /dev/full";
+    writePlane();
+    writeNet();
+    const BatchResult result =
+        runInto(full.filePath(),
+                {QStringLiteral("build"), QStringLiteral("plane.obj"), QStringLiteral("net.json"),
+                 QStringLiteral("-o"), QStringLiteral("out.obj")});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_TRUE(result.errors.contains(QStringLiteral("report"))) << qPrintable(result.errors);
+    EXPECT_TRUE(exists(QStringLiteral("out.obj")));
+}
+
+TEST_F(BadInput, aPlatformThatDoesNotExistIsSaid)
+{
+    const BatchResult result = run({QStringLiteral("-platform"), QStringLiteral("nowhere")});
+    EXPECT_NE(result.exitCode, 0);
+    EXPECT_TRUE(result.errors.contains(QStringLiteral("platform"))) << qPrintable(result.errors);
 }
 
 TEST_F(BadInput, aFullDiskLeavesTheOldFileWhole)

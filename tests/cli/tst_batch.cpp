@@ -145,6 +145,12 @@ TEST_F(Batch, aLoopInsideACellIsWarnedOf)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_TRUE(result.output.contains(QStringLiteral("lies inside a face of piece 0")))
         << qPrintable(result.output);
+    EXPECT_TRUE(result.output.contains(QStringLiteral("its mesh lies over that face")));
+    const QVector<QVector<double>> cross{{4, 5.1, 6, 5.1}, {5.1, 4, 5.1, 6}};
+    writeStrokes(QStringLiteral("cross.json"), square(1, 9) + cross);
+    const QString bare = build(QStringLiteral("cross.json")).output;
+    EXPECT_TRUE(bare.contains(QStringLiteral("lies inside a face of piece 0"))) << qPrintable(bare);
+    EXPECT_FALSE(bare.contains(QStringLiteral("its mesh"))) << qPrintable(bare);
     writeStrokes(QStringLiteral("beside.json"), square(1, 4) + square(5, 9));
     EXPECT_FALSE(build(QStringLiteral("beside.json")).output.contains(QStringLiteral("warning")));
 }

@@ -106,6 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadOption{"--max-edges 4.5", "\"4.5\""}, BadOption{"--max-edges x", "\"x\""},
                     BadOption{"--max-edges 99999999999", "\"99999999999\""},
                     BadOption{"--merge abc", "--merge"}, BadOption{"--merge=-1", "\"-1\""},
+                    BadOption{"--merge 1,500", "\"1,500\""},
                     BadOption{"--merge 10001", "from 0 to 10000"},
                     BadOption{"--tolerance nan", "\"nan\""}, BadOption{"--overrun inf", "\"inf\""},
                     BadOption{"--bind-tolerance 101", "from 0 to 100"},

@@ -4,6 +4,10 @@
 #include "host/files/safefile.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
 
 using namespace orvane;
 
@@ -92,6 +96,19 @@ TEST_F(SafeFile, folderIsNoPlaceForAFile)
     const QString text = QStringLiteral("folder: this is a folder; expected the name of a file.");
     EXPECT_EQ(writeError(path(QStringLiteral("folder")), "x"), text);
     EXPECT_TRUE(writeError(QString(), "x").contains(QStringLiteral("expected the name of a file")));
+}
+
+TEST_F(SafeFile, deviceOrPipeIsNeverReplaced)
+{
+    const QString pipe = path(QStringLiteral("pipe"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(writeError(pipe, "x"),
+              QStringLiteral("pipe: this is a device or a pipe; expected a file."));
+    ASSERT_TRUE(QFile::link(pipe, path(QStringLiteral("link"))));
+    EXPECT_EQ(writeError(path(QStringLiteral("link")), "x"),
+              QStringLiteral("link: this is a device or a pipe; expected a file."));
+    EXPECT_FALSE(QFileInfo(pipe).isFile());
+    EXPECT_TRUE(QFileInfo::exists(pipe));
 }
 
 TEST_F(SafeFile, missingFileIsNamed)
