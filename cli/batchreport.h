@@ -24,6 +24,7 @@ struct BatchReport
     QString curvesFile;
     int sourceFaces = 0; // polygons
     int sourceVertices = 0;
+    int facesLeftOut = 0; // of the mesh file, of fewer than three different corners
     orvane::CurveBinding binding;
     QStringList curveNames; // by input curve
     RunReport run;

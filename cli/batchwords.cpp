@@ -3,6 +3,18 @@
 
 #include <QStringList>
 
+QString counted(int count, const char *thing)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(QString::fromUtf8(thing),
+                                                    count == 1 ? QString() : QStringLiteral("s"));
+}
+
+QString leftOutInWords(int faces)
+{
+    return counted(faces, "face")
+           + QStringLiteral(" of fewer than three different corners, left out in reading");
+}
+
 QString facesInWords(const QVector<int> &facesByCorners)
 {
     QStringList words;
@@ -11,9 +23,9 @@ QString facesInWords(const QVector<int> &facesByCorners)
         if (count == 0)
             continue;
         if (corners == 3)
-            words += QStringLiteral("%1 triangles").arg(count);
+            words += counted(count, "triangle");
         else if (corners == 4)
-            words += QStringLiteral("%1 quads").arg(count);
+            words += counted(count, "quad");
         else
             words += QStringLiteral("%1 of %2 corners").arg(count).arg(corners);
     }
@@ -52,9 +64,9 @@ QString pieceFailureInWords(const PieceReport &piece)
 QString placeInWords(const orvane::Vector &place)
 {
     return QStringLiteral("%1 %2 %3")
-        .arg(double(place.x), 0, 'g', 5)
-        .arg(double(place.y), 0, 'g', 5)
-        .arg(double(place.z), 0, 'g', 5);
+        .arg(double(place.x), 0, 'g', 7)
+        .arg(double(place.y), 0, 'g', 7)
+        .arg(double(place.z), 0, 'g', 7);
 }
 
 QVector<int> totalFaces(const RunReport &run)

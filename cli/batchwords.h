@@ -6,6 +6,10 @@
 #include <QString>
 #include <QVector>
 
+//! "1 crossing", "2 crossings".
+QString counted(int count, const char *thing);
+//! Faces of a file that reading left out.
+QString leftOutInWords(int faces);
 //! "3 triangles, 240 quads, 5 of 5 corners"; index of counts: number of corners.
 QString facesInWords(const QVector<int> &facesByCorners);
 //! "7: 5 over the limit, 2 at loose ends"; "none".

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/buildjob.h"
 
+#include "cli/batchwords.h"
 #include "cli/dump.h"
 #include "cli/exitcode.h"
 #include "cli/outputs.h"
@@ -28,17 +29,21 @@ int BuildJob::run()
         printLine(stderr, error);
         return ExitFileTrouble;
     }
-    if (m_report.binding.bound == 0) {
-        printLine(stderr,
-                  QStringLiteral("%1: none of its %2 points lies within %3 % of the diagonal "
-                                 "of %4; expected curves drawn on that mesh.")
-                      .arg(m_options.curves)
-                      .arg(m_report.binding.points)
-                      .arg(double(m_options.bindPercent))
-                      .arg(m_options.mesh));
-        return ExitNothingMade;
-    }
-    return build();
+    return m_report.binding.bound == 0 ? refuseUnbound() : build();
+}
+
+int BuildJob::refuseUnbound()
+{
+    m_report.run.failure =
+        QStringLiteral("%1: none of its %2 lies within %3 % of the diagonal of %4; expected curves "
+                       "drawn on that mesh.")
+            .arg(m_options.curves, counted(m_report.binding.points, "point"))
+            .arg(double(m_options.bindPercent))
+            .arg(m_options.mesh);
+    printLine(stderr, m_report.run.failure);
+    if (m_options.json)
+        print(stdout, QString::fromUtf8(reportJson(m_report)));
+    return ExitNothingMade;
 }
 
 // Before the work, so that nobody waits for a result that has nowhere to go.
@@ -58,7 +63,7 @@ bool BuildJob::read(QString *error)
 {
     StageClock clock;
     orvane::Scene *scene = orvane::Kernel()->Scene();
-    orvane::Geometry *source = orvane::readMesh(m_options.mesh, error);
+    orvane::Geometry *source = orvane::readMesh(m_options.mesh, error, &m_report.facesLeftOut);
     if (!source)
         return false;
     scene->AddGeometry(source);
@@ -92,7 +97,11 @@ int BuildJob::build()
                                     p.useSelfIntersections);
     orvane::Kernel()->DoOperation(&operation, true, false);
     m_report.run = lastRunReport();
+    if (m_report.run.crossings == 0 && !m_options.useSelfIntersections)
+        m_report.run.failure += QStringLiteral(" (a curve crosses itself only with "
+                                               "--self-intersections)");
     noteMeshes(operation);
+    warnOfFaults();
 
     QString error;
     if (!write(operation, &error)) {
@@ -126,12 +135,21 @@ void BuildJob::noteMeshes(const ManualRetopoOperation &operation)
             made.faultBits |= fault.bit;
             made.faults += faultInWords(fault);
         }
-        if (made.faultBits != 0) // said here too: the report may go where nobody looks
-            printLine(stderr, QStringLiteral("WARNING: the mesh \"%1\" has faults and was accepted "
-                                             "with them; --on-faults discard refuses such meshes.")
-                                  .arg(made.name));
         m_report.meshes.append(made);
     }
+}
+
+// On the error stream as well: the report may go where nobody looks.
+void BuildJob::warnOfFaults() const
+{
+    int count = 0;
+    for (const MadeMesh &mesh : m_report.meshes)
+        count += mesh.faultBits != 0;
+    if (count > 0)
+        printLine(stderr, QStringLiteral("WARNING: accepted %1 with faults; --on-faults discard "
+                                         "refuses such meshes.")
+                              .arg(count == 1 ? QStringLiteral("a mesh")
+                                              : QStringLiteral("%1 meshes").arg(count)));
 }
 
 bool BuildJob::write(const ManualRetopoOperation &operation, QString *error)

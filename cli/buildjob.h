@@ -28,8 +28,10 @@ public:
 private:
     bool outputsCanBeWritten(QString *error) const;
     bool read(QString *error);
+    int refuseUnbound();
     int build();
     void noteMeshes(const ManualRetopoOperation &operation);
+    void warnOfFaults() const;
     bool write(const ManualRetopoOperation &operation, QString *error);
     bool writePicture(const ManualRetopoOperation &operation, QString *error) const;
     void noteTime(const char *what, double seconds);

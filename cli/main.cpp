@@ -14,6 +14,7 @@
 #include <QApplication>
 
 #include <csignal>
+#include <new>
 
 namespace {
 
@@ -92,12 +93,25 @@ int runCommand(const QStringList &words, DialogAnswers &answers)
                                  : QStringLiteral("\"%1\" is no command.").arg(command) + help});
 }
 
+int runWithinMemory(const QStringList &words, DialogAnswers &answers)
+{
+    try {
+        return runCommand(words, answers);
+    } catch (const std::bad_alloc &) {
+        printLine(stderr, QStringLiteral("quillmesh: there is not enough memory for this input."));
+        return ExitNothingMade;
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     // A file over the limit is then a failed write with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
+    // The same input gives the same picture, however large the user likes letters on a screen.
+    for (const char *name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
+        qunsetenv(name);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(toLog);
@@ -107,7 +121,7 @@ int main(int argc, char **argv)
     BatchInterface interface;
     orvane::Kernel()->SetInterface(&interface);
     DialogAnswers answers;
-    const int code = afterOutput(runCommand(application.arguments().mid(1), answers));
+    const int code = afterOutput(runWithinMemory(application.arguments().mid(1), answers));
     orvane::Kernel()->Scene()->Clear();
     orvane::Kernel()->SetInterface(nullptr);
     return code;

@@ -70,8 +70,19 @@ QJsonArray pointsJson(const BatchReport &report)
     QJsonArray result;
     for (const PointOnCurve &point : report.run.pointsOnCurves)
         result.append(QJsonObject{{key("curveA"), report.curveNames.value(point.curveA)},
+                                  {key("indexA"), point.curveA},
                                   {key("curveB"), report.curveNames.value(point.curveB)},
+                                  {key("indexB"), point.curveB},
                                   {key("place"), placeJson(point.place)}});
+    return result;
+}
+
+QJsonArray idleCurvesJson(const BatchReport &report)
+{
+    QJsonArray result;
+    for (int curve : report.run.curvesWithoutCrossing)
+        result.append(
+            QJsonObject{{key("name"), report.curveNames.value(curve)}, {key("index"), curve}});
     return result;
 }
 
@@ -95,8 +106,9 @@ QByteArray reportJson(const BatchReport &report)
         {key("mesh"), report.meshFile},
         {key("sourceFaces"), report.sourceFaces},
         {key("sourceVertices"), report.sourceVertices},
+        {key("facesLeftOut"), report.facesLeftOut},
         {key("curvesFile"), report.curvesFile},
-        {key("curves"), report.run.curves},
+        {key("curves"), report.curveNames.size()},
         {key("points"), report.binding.points},
         {key("pointsBound"), report.binding.bound},
         {key("greatestBindingDistance"), double(report.binding.greatestDistance)},
@@ -108,6 +120,7 @@ QByteArray reportJson(const BatchReport &report)
         {key("holes"), holesJson(totalHoles(report.run))},
         {key("meshes"), meshesJson(report.meshes)},
         {key("pointsOnCurves"), pointsJson(report)},
+        {key("curvesWithoutCrossing"), idleCurvesJson(report)},
         {key("seconds"), secondsJson(report)},
         {key("written"), QJsonArray::fromStringList(report.written)},
     };

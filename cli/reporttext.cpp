@@ -16,17 +16,17 @@ QString line(const char *label, const QString &words)
 QString inputLines(const BatchReport &report)
 {
     const orvane::CurveBinding &binding = report.binding;
-    return line("mesh", QStringLiteral("%1: %2 faces, %3 vertices")
-                            .arg(report.meshFile)
-                            .arg(report.sourceFaces)
-                            .arg(report.sourceVertices))
-           + line("curves", QStringLiteral("%1: %2 curves, %3 of %4 points on the mesh (moved at "
-                                           "most %5)")
-                                .arg(report.curvesFile)
-                                .arg(report.run.curves)
-                                .arg(binding.bound)
-                                .arg(binding.points)
-                                .arg(double(binding.greatestDistance), 0, 'g', 3));
+    QString text = line("mesh", QStringLiteral("%1: %2, %3 vertices")
+                                    .arg(report.meshFile, counted(report.sourceFaces, "face"))
+                                    .arg(report.sourceVertices));
+    if (report.facesLeftOut > 0)
+        text += line("warning", leftOutInWords(report.facesLeftOut));
+    text += line("curves", QStringLiteral("%1: %2, %3 of %4 on the mesh (moved at most %5)")
+                               .arg(report.curvesFile, counted(report.curveNames.size(), "curve"))
+                               .arg(binding.bound)
+                               .arg(counted(binding.points, "point"))
+                               .arg(double(binding.greatestDistance), 0, 'g', 3));
+    return text;
 }
 
 QString runLines(const BatchReport &report)
@@ -57,10 +57,10 @@ QString pieceLines(const RunReport &run)
         const PieceReport &piece = run.pieces[i];
         const bool built = piece.outcome == PieceReport::Built;
         if (!built)
-            text += line("", QStringLiteral("piece %1 (%2 crossings, at %3) made no mesh: %4")
+            text += line("", QStringLiteral("piece %1 (%2, at %3) made no mesh: %4")
                                  .arg(i)
-                                 .arg(piece.nodes)
-                                 .arg(placeInWords(piece.place), pieceFailureInWords(piece)));
+                                 .arg(counted(piece.nodes, "crossing"), placeInWords(piece.place),
+                                      pieceFailureInWords(piece)));
         if (piece.inFaceOfPiece >= 0)
             text += line(
                 "warning",
@@ -74,14 +74,27 @@ QString pieceLines(const RunReport &run)
     return text;
 }
 
+// A loop alone in a cell, or a stroke that reaches no other, leaves no trace in the mesh.
+QString idleCurveLine(const BatchReport &report)
+{
+    QStringList names;
+    for (int curve : report.run.curvesWithoutCrossing)
+        names += QStringLiteral("\"%1\"").arg(report.curveNames.value(curve));
+    if (names.isEmpty())
+        return {};
+    return line("warning",
+                QStringLiteral("%1 without a crossing: %2")
+                    .arg(counted(names.size(), "curve"), names.join(QStringLiteral(", "))));
+}
+
 QString pointLines(const BatchReport &report)
 {
     if (report.run.pointsOnCurves.isEmpty())
         return {};
-    QString text =
-        line("warning", QStringLiteral("%1 places where a curve passes exactly through a "
-                                       "point of a curve: no crossing there")
-                            .arg(report.run.pointsOnCurves.size()));
+    QString text = line(
+        "warning", QStringLiteral("%1 where a curve passes exactly through a point of a curve: "
+                                  "no crossing there")
+                       .arg(counted(report.run.pointsOnCurves.size(), "place")));
     for (const PointOnCurve &point : report.run.pointsOnCurves)
         text +=
             line("", QStringLiteral("\"%1\" and \"%2\" at %3")
@@ -125,7 +138,8 @@ QString timeLine(const BatchReport &report)
 QString reportText(const BatchReport &report)
 {
     QString text = inputLines(report) + runLines(report) + pieceLines(report.run)
-                   + pointLines(report) + faultLines(report) + timeLine(report);
+                   + idleCurveLine(report) + pointLines(report) + faultLines(report)
+                   + timeLine(report);
     for (const QString &file : report.written)
         text += line("wrote", file);
     if (!report.run.failure.isEmpty())

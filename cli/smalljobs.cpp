@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/smalljobs.h"
 
+#include "cli/batchwords.h"
 #include "cli/exitcode.h"
 #include "cli/outputs.h"
 #include "cli/picture.h"
@@ -25,9 +26,9 @@ int fileTrouble(const QString &error)
 }
 
 // The mesh is the scene's; null when it cannot be read.
-orvane::Mesh *readIntoScene(const QString &path, QString *error)
+orvane::Mesh *readIntoScene(const QString &path, QString *error, int *leftOut = nullptr)
 {
-    orvane::Geometry *geometry = orvane::readMesh(path, error);
+    orvane::Geometry *geometry = orvane::readMesh(path, error, leftOut);
     orvane::Kernel()->Scene()->AddGeometry(geometry);
     return geometry ? geometry->CurrentLevel() : nullptr;
 }
@@ -37,12 +38,13 @@ orvane::Mesh *readIntoScene(const QString &path, QString *error)
 int runCheck(const QString &meshFile)
 {
     QString error;
-    const orvane::Mesh *mesh = readIntoScene(meshFile, &error);
+    int leftOut = 0;
+    const orvane::Mesh *mesh = readIntoScene(meshFile, &error, &leftOut);
     if (!mesh)
         return fileTrouble(error);
     const orvane::MeshChecker checker;
     const QVector<orvane::MeshFault> faults = checker.Find(mesh);
-    int bits = 0;
+    int bits = leftOut > 0 ? int(orvane::MeshChecker::TwoSidedFace) : 0;
     for (const orvane::MeshFault &fault : faults)
         bits |= fault.bit;
     printLine(stdout, QStringLiteral("%1: %2 faces, %3 vertices, fault bits 0x%4")
@@ -52,9 +54,11 @@ int runCheck(const QString &meshFile)
                           .arg(bits, 5, 16, QLatin1Char('0')));
     for (const orvane::MeshFault &fault : faults)
         printLine(stdout, QStringLiteral("  ") + faultInWords(fault));
-    if (faults.isEmpty())
+    if (leftOut > 0)
+        printLine(stdout, QStringLiteral("  ") + leftOutInWords(leftOut));
+    if (bits == 0)
         printLine(stdout, QStringLiteral("  no faults"));
-    return faults.isEmpty() ? ExitDone : ExitFaults;
+    return bits == 0 ? ExitDone : ExitFaults;
 }
 
 int runPicture(const PictureOptions &options)

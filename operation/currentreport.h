@@ -16,7 +16,9 @@ class OrvaneCurve;
 //! Empties the report of the latest run for a run that starts now.
 RunReport &startReport(const QList<orvane::OrvaneCurve *> &curves, int maximumEdges);
 
-void noteSearch(RunReport &report, const SearchNotes &notes, int crossings);
+//! What the search found: its nodes, before any merging.
+void noteSearch(RunReport &report, const SearchNotes &notes, const QList<IntersectionNode *> &nodes,
+                const QList<orvane::OrvaneCurve *> &curves);
 
 //! Adds what came of the piece with this seed to the report of the current run. The outcome of a
 //! piece with a mesh is NotAdded until the host has taken it.

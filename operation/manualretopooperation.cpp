@@ -148,7 +148,7 @@ void ManualRetopoOperation::generateMeshes()
     SearchNotes notes;
     findIntersections(m_curves, nodes, length * m_intersectionTolerance, m_overrunTolerance,
                       m_useSelfIntersections, &notes);
-    noteSearch(report, notes, nodes.size());
+    noteSearch(report, notes, nodes, m_curves);
     clock.lap();
 
     mergeCloseNodes(nodes, length * m_mergeDistance);

@@ -9,6 +9,7 @@
 #include <orvane/geometry/mesh.h>
 
 #include <QCoreApplication>
+#include <QSet>
 
 namespace {
 
@@ -84,9 +85,19 @@ RunReport &startReport(const QList<orvane::OrvaneCurve *> &curves, int maximumEd
     return report;
 }
 
-void noteSearch(RunReport &report, const SearchNotes &notes, int crossings)
+void noteSearch(RunReport &report, const SearchNotes &notes, const QList<IntersectionNode *> &nodes,
+                const QList<orvane::OrvaneCurve *> &curves)
 {
-    report.crossings = crossings;
+    report.crossings = nodes.size();
+    QSet<const orvane::OrvaneCurve *> crossed;
+    for (const IntersectionNode *node : nodes) {
+        for (const orvane::OrvaneCurve *curve : node->curves)
+            crossed.insert(curve);
+    }
+    for (int i = 0; i < curves.size(); ++i) {
+        if (curves[i] && !crossed.contains(curves[i]))
+            report.curvesWithoutCrossing.append(i);
+    }
     report.pointsOnCurves = notes.pointsOnCurves;
     report.seconds.sample = notes.sampleSeconds;
     report.seconds.self = notes.selfSeconds;

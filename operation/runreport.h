@@ -53,6 +53,7 @@ struct RunReport
     int merged = 0;                 // nodes absorbed by the merge pass
     QVector<PieceReport> pieces;    // in order of building
     QVector<PointOnCurve> pointsOnCurves;
+    QVector<int> curvesWithoutCrossing; // indices into the input curves, null ones left out
     StageSeconds seconds;
     QString failure; // why nothing was made, in the user's language; empty when a mesh was made
 };

@@ -99,7 +99,7 @@ QString brokenVertexIn(const PolygonMesh &mesh)
 
 } // namespace
 
-Geometry *readMesh(const QString &path, QString *error)
+Geometry *readMesh(const QString &path, QString *error, int *leftOut)
 {
     QByteArray bytes;
     if (!readWhole(path, &bytes, error))
@@ -119,6 +119,8 @@ Geometry *readMesh(const QString &path, QString *error)
         *error = aboutFile(path, problem);
         return nullptr;
     }
+    if (leftOut)
+        *leftOut = dropped;
     if (dropped > 0)
         log(aboutFile(path, QStringLiteral("%1 of %2 faces have fewer than three different corners "
                                            "and were left out.")

@@ -13,7 +13,8 @@ class Geometry;
 //! Reads all parts of a mesh file as one mesh: a new geometry named after the file, of one level,
 //! owned by the caller. Vertices keep the file's order; those of no face are left out. Quads stay
 //! quads when every face is one. Null, and one sentence in *error, when the file cannot be used.
-ORVANE_FILES_EXPORT Geometry *readMesh(const QString &path, QString *error);
+//! Faces of fewer than three different corners are left out and counted in *leftOut, if given.
+ORVANE_FILES_EXPORT Geometry *readMesh(const QString &path, QString *error, int *leftOut = nullptr);
 
 //! Can writeMeshes write a file of that name? False, and one sentence in *error, when not.
 ORVANE_FILES_EXPORT bool isWritableMeshFormat(const QString &path, QString *error);

@@ -102,7 +102,7 @@ TEST_F(Batch, aRunThatMakesNothingSaysWhyAndDoesNotExitZero)
     writeStrokes(QStringLiteral("cross.json"), {{1, 1.2, 9, 8.7}, {1, 8.9, 9, 1.3}});
     const BatchResult cross = build(QStringLiteral("cross.json"));
     EXPECT_EQ(cross.exitCode, 1);
-    EXPECT_TRUE(cross.output.contains(QStringLiteral("piece 0 (1 crossings")))
+    EXPECT_TRUE(cross.output.contains(QStringLiteral("piece 0 (1 crossing,")))
         << qPrintable(cross.output);
     EXPECT_FALSE(exists(QStringLiteral("out.obj")));
 }
@@ -164,13 +164,54 @@ TEST_F(Batch, crossingsOnACurvePointAreNamed)
         << qPrintable(result.output);
 }
 
+TEST_F(Batch, aCurveThatCrossesNothingIsNamed)
+{
+    writeNet();
+    EXPECT_FALSE(build(QStringLiteral("net.json")).output.contains(QStringLiteral("warning")));
+    QByteArray curves = read(QStringLiteral("net.json"));
+    curves.replace("\"curves\": [",
+                   "\"curves\": [{\"name\": \"lonely\", \"points\": [[3, 3, 0], [3.5, 3.6, 0]]},");
+    write(QStringLiteral("lonely.json"), curves);
+    const BatchResult result = build(QStringLiteral("lonely.json"));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.output.contains(QStringLiteral("1 curve without a crossing: \"lonely\"")))
+        << qPrintable(result.output);
+    const QJsonArray idle =
+        report(QStringLiteral("lonely.json"))[key("curvesWithoutCrossing")].toArray();
+    ASSERT_EQ(idle.size(), 1);
+    EXPECT_EQ(idle[0].toObject()[key("index")].toInt(), 0);
+}
+
+TEST_F(Batch, facesLeftOutInReadingAreSaidAndAreAFault)
+{
+    write(QStringLiteral("plane.obj"), read(QStringLiteral("plane.obj")) + "f 1 1 2 2\n");
+    const BatchResult check = run({QStringLiteral("check"), QStringLiteral("plane.obj")});
+    EXPECT_EQ(check.exitCode, 4);
+    EXPECT_TRUE(check.output.contains(QStringLiteral("fault bits 0x20000")));
+    EXPECT_TRUE(check.output.contains(QStringLiteral("1 face of fewer than three different")));
+    writeNet();
+    EXPECT_TRUE(build(QStringLiteral("net.json"))
+                    .output.contains(QStringLiteral("1 face of fewer than three different")));
+}
+
+TEST_F(Batch, curvesOffTheMeshAreReportedToMachinesToo)
+{
+    write(QStringLiteral("far.json"),
+          "{\"curves\": [{\"points\": [[0, 0, 90], [1, 1, 90], [2, 1, 90]]}]}");
+    const BatchResult result = build(QStringLiteral("far.json"), {QStringLiteral("--json")});
+    EXPECT_EQ(result.exitCode, 1);
+    const QJsonObject json = QJsonDocument::fromJson(result.output.toUtf8()).object();
+    EXPECT_TRUE(json[key("failure")].toString().contains(QStringLiteral("none of its 3 points")));
+    EXPECT_EQ(json[key("pointsBound")].toInt(), 0);
+}
+
 TEST_F(Batch, faultsAreAcceptedLoudlyOrCostTheMesh)
 {
     writeBowtie();
     const BatchResult accepted = build(QStringLiteral("bowtie.json"));
     EXPECT_EQ(accepted.exitCode, 0) << qPrintable(accepted.output);
     EXPECT_TRUE(accepted.output.contains(QStringLiteral("FAULTS"))) << qPrintable(accepted.output);
-    EXPECT_TRUE(accepted.errors.startsWith(QStringLiteral("WARNING: the mesh \"plane-Retopo\"")))
+    EXPECT_TRUE(accepted.errors.startsWith(QStringLiteral("WARNING: accepted a mesh with faults")))
         << qPrintable(accepted.errors);
     EXPECT_TRUE(exists(QStringLiteral("out.obj")));
 

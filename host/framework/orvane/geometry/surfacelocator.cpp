@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <orvane/geometry/surfacelocator.h>
 
-#include <orvane/base/log.h>
 #include <orvane/geometry/mesh.h>
 
 #include <embree3/rtcore.h>
@@ -12,6 +11,14 @@ namespace orvane {
 
 struct SurfaceLocator::Scene
 {
+    ~Scene()
+    {
+        if (scene)
+            rtcReleaseScene(scene);
+        if (device)
+            rtcReleaseDevice(device);
+    }
+
     RTCDevice device = nullptr;
     RTCScene scene = nullptr;
 };
@@ -145,6 +152,7 @@ void addFaces(RTCGeometry geometry, const Mesh &mesh)
     auto *position = static_cast<float *>(
         rtcSetNewGeometryBuffer(geometry, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
                                 3 * sizeof(float), size_t(mesh.VertexCount())));
+    Q_CHECK_PTR(position);
     for (int v = 0; v < mesh.VertexCount(); ++v) {
         const Vector world = mesh.WorldVertexPosition(v);
         position[3 * v] = world.x;
@@ -155,6 +163,7 @@ void addFaces(RTCGeometry geometry, const Mesh &mesh)
     auto *index = static_cast<unsigned *>(
         rtcSetNewGeometryBuffer(geometry, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3,
                                 3 * sizeof(unsigned), size_t(triangles)));
+    Q_CHECK_PTR(index);
     for (int primitive = 0; primitive < triangles; ++primitive) {
         int vertex[3];
         cornersOf(mesh, primitive, vertex);
@@ -168,10 +177,7 @@ void addFaces(RTCGeometry geometry, const Mesh &mesh)
 SurfaceLocator::SurfaceLocator(const Mesh &mesh) : m_mesh(mesh), m_scene(new Scene)
 {
     m_scene->device = rtcNewDevice(nullptr);
-    if (!m_scene->device) {
-        log(QStringLiteral("Embree gave no device; points cannot be put onto meshes."));
-        return;
-    }
+    Q_CHECK_PTR(m_scene->device); // where there is a processor, memory is what lacks
     m_scene->scene = rtcNewScene(m_scene->device);
     rtcSetSceneFlags(m_scene->scene, RTC_SCENE_FLAG_ROBUST);
     if (mesh.FaceCount() > 0) {
@@ -182,19 +188,16 @@ SurfaceLocator::SurfaceLocator(const Mesh &mesh) : m_mesh(mesh), m_scene(new Sce
         rtcReleaseGeometry(geometry);
     }
     rtcCommitScene(m_scene->scene);
+    // Half a scene would answer that there is no surface where there is one.
+    if (rtcGetDeviceError(m_scene->device) != RTC_ERROR_NONE)
+        qBadAlloc();
 }
 
-SurfaceLocator::~SurfaceLocator()
-{
-    if (m_scene->scene)
-        rtcReleaseScene(m_scene->scene);
-    if (m_scene->device)
-        rtcReleaseDevice(m_scene->device);
-}
+SurfaceLocator::~SurfaceLocator() = default;
 
 SurfacePoint SurfaceLocator::ClosestPoint(const Vector &place, float maxDistance) const
 {
-    if (!m_scene->scene || !place.IsFinite() || !(maxDistance >= 0.0f))
+    if (!place.IsFinite() || !(maxDistance >= 0.0f))
         return {};
     // A rounding of the radius must not hide the face that a point lies on exactly.
     const float radius = std::nextafter(maxDistance, std::numeric_limits<float>::max());
@@ -214,7 +217,7 @@ SurfacePoint SurfaceLocator::ClosestPoint(const Vector &place, float maxDistance
 
 SurfacePoint SurfaceLocator::Pick(const Vector &origin, const Vector &direction) const
 {
-    if (!m_scene->scene || !origin.IsFinite() || !direction.IsFinite())
+    if (!origin.IsFinite() || !direction.IsFinite())
         return {};
     RTCRayHit hit = {};
     hit.ray.org_x = origin.x;
