@@ -162,7 +162,7 @@ const char *const BuildDescription =
     "  quillmesh build head.obj head_curves.json -o head_light.obj --picture head.png";
 
 const char *const CheckDescription = "Says what is wrong with a mesh, in words and as bits.\n"
-                                     "Exit code 0: nothing; 4: it has faults.\n\n"
+                                     "Exit code 0: nothing; 4: it has faults. Vertices and faces count from 0.\n\n"
                                      "Example:\n"
                                      "  quillmesh check head_light.obj";
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/meshfile.h"
 
+#include "host/files/fanstart.h"
 #include "host/files/assimpmesh.h"
 #include "host/files/binarymesh.h"
 #include "host/files/gltfmesh.h"
@@ -127,6 +128,7 @@ Geometry *readMesh(const QString &path, QString *error, int *leftOut)
                                 .arg(dropped)
                                 .arg(read)));
     dropLooseVertices(&mesh);
+    startAtFanCorners(&mesh);
     return geometryOf(mesh);
 }
 
