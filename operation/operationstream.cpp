@@ -12,11 +12,10 @@ using orvane::Stream;
 
 namespace {
 
-template <typename T, typename List>
-void readReferences(Stream &stream, int count, List &list)
+template <typename T>
+T *readReference(Stream &stream)
 {
-    for (int i = 0; i < count && stream.IsOk(); ++i)
-        list.append(dynamic_cast<T *>(stream.ReadNode()));
+    return dynamic_cast<T *>(stream.ReadNode());
 }
 
 } // namespace
@@ -44,7 +43,12 @@ void ManualRetopoOperation::Serialize(Stream &stream)
         return;
     }
     m_addGeometry.clear();
-    readReferences<orvane::Geometry>(stream, geometryCount, m_addGeometry);
+    for (int i = 0; i < geometryCount && stream.IsOk(); ++i) {
+        auto *geometry = readReference<orvane::Geometry>(stream);
+        // Damaged bytes may name one twice; it can be destroyed only once.
+        m_addGeometry.append(m_addGeometry.contains(geometry) ? nullptr : geometry);
+    }
     // Not emptied first: a fresh operation has none, and the layout relies on that.
-    readReferences<orvane::OrvaneCurve>(stream, curveCount, m_curves);
+    for (int i = 0; i < curveCount && stream.IsOk(); ++i)
+        m_curves.append(readReference<orvane::OrvaneCurve>(stream));
 }

@@ -165,6 +165,24 @@ TEST_F(OperationStream, nullCurvesAndGeometriesThatLeftTheSceneGoOutAndComeBackA
     EXPECT_EQ(stateOf(loaded).curveReferences, stateOf(*operation).curveReferences);
 }
 
+TEST_F(OperationStream, aGeometryThatIsNamedTwiceIsTakenBackOnce)
+{
+    Sheet sheet;
+    drawCell(sheet, {2, 2, 0}, 2.0f);
+    const auto operation = operationOn(sheet.curves());
+    ASSERT_TRUE(operation->ExecuteAndInvert());
+    const int id = operation->AddGeometry().first()->ID();
+    QByteArray bytes = bytesOf(*operation);
+    replaceNumber(bytes, 18, 2); // the count of geometries
+    bytes.insert(38, bytes.mid(38, 4));
+
+    ManualRetopoOperation loaded;
+    ASSERT_TRUE(readInto(loaded, bytes));
+    EXPECT_EQ(stateOf(loaded).geometryReferences, (QVector<int>{id, 0}));
+    EXPECT_TRUE(loaded.ExecuteAndInvert());
+    EXPECT_TRUE(createdGeometries(1).empty());
+}
+
 TEST_F(OperationStream, whateverEndsEarlyOrMakesNoSenseNeitherCrashesNorHangs)
 {
     Sheet sheet;

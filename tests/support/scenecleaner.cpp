@@ -5,16 +5,13 @@
 
 #include <orvane/base/log.h>
 #include <orvane/kernel/kernel.h>
-#include <orvane/kernel/scene.h>
 
 namespace {
 
 void clearAll()
 {
     auto *kernel = orvane::Kernel();
-    kernel->Undos().Clear();
-    kernel->Scene()->Clear();
-    kernel->Scene()->SetChanged(false);
+    kernel->NewScene();
     kernel->SetInterface(nullptr);
     kernel->SetViewPort(nullptr);
     kernel->SetTestMode(false);

@@ -3,6 +3,7 @@
 #include "tests/support/scenecleaner.h"
 #include "tests/support/shapes.h"
 
+#include <orvane/geometry/geometry.h>
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/kernel/interface.h>
 #include <orvane/kernel/kernel.h>
@@ -274,6 +275,42 @@ TEST_F(TheKernel, recordsCommandsWithoutCarryingThemOut)
     EXPECT_EQ(m_kernel->CommandAttribute().Value(), before);
     EXPECT_EQ(m_kernel->RecordedCommands().size(), recorded + 1);
     EXPECT_EQ(m_kernel->RecordedCommands().last(), QStringLiteral("make 6"));
+}
+
+TEST_F(TheKernel, beginsANewSceneWithNothingOfTheOld)
+{
+    addToScene(cube());
+    NumberOperation operation(1);
+    orvane::Kernel()->DoOperation(&operation, false, false);
+    EXPECT_TRUE(orvane::Kernel()->NewScene());
+    EXPECT_EQ(orvane::Kernel()->Scene()->NodeCount(), 0);
+    EXPECT_FALSE(orvane::Kernel()->Scene()->IsChanged());
+    EXPECT_FALSE(orvane::Kernel()->Undos().CanUndo());
+    EXPECT_EQ(addToScene(cube())->ID(), 1);
+}
+
+TEST_F(TheKernel, beginsNoNewSceneWhileAnOperationRuns)
+{
+    addToScene(cube());
+    NumberOperation::whileRunning = [] {
+        EXPECT_FALSE(orvane::Kernel()->NewScene());
+    };
+    NumberOperation operation(1);
+    EXPECT_TRUE(orvane::Kernel()->DoOperation(&operation, false, false));
+    EXPECT_EQ(orvane::Kernel()->Scene()->NodeCount(), 1);
+}
+
+TEST_F(TheKernel, countsTheOperationsThatWereTried)
+{
+    const int before = orvane::Kernel()->OperationCount();
+    NumberOperation operation(1);
+    orvane::Kernel()->DoOperation(&operation, false, false);
+    NumberOperation::refused = 2;
+    NumberOperation refused(2);
+    orvane::Kernel()->DoOperation(&refused, false, false);
+    orvane::Kernel()->DoOperation(nullptr, false, false);
+    orvane::Kernel()->Undo();
+    EXPECT_EQ(orvane::Kernel()->OperationCount(), before + 2);
 }
 
 TEST_F(TheKernel, leavesQuietlyWithAFullScene)

@@ -147,6 +147,16 @@ TEST_F(InTheScene, aGeometryThatIsElsewhereIsNotMadeActive)
     EXPECT_EQ(m_scene->ActiveGeometry(), inside);
 }
 
+TEST_F(InTheScene, aCurveIsNeverTheActiveOne)
+{
+    Geometry *geometry = addToScene(singleTriangle());
+    m_scene->SetActiveGeometry(geometry);
+    auto *curve = new OrvaneCurve; // the scene's
+    ASSERT_TRUE(m_scene->Restore(curve, {1, 1}));
+    EXPECT_EQ(m_scene->ActiveGeometry(), geometry);
+    EXPECT_EQ(m_scene->PlaceOf(curve).activeRank, -1);
+}
+
 TEST_F(InTheScene, nothingIsActiveAfterItIsCleared)
 {
     m_scene->SetActiveGeometry(addToScene(singleTriangle()));
@@ -174,4 +184,68 @@ TEST_F(InTheScene, aChangeIsNotedAndForgottenWhenSaved)
     EXPECT_TRUE(m_scene->IsChanged());
     m_scene->SetChanged(false);
     EXPECT_FALSE(m_scene->IsChanged());
+}
+
+TEST_F(InTheScene, aNodeComesBackToThePlaceItHad)
+{
+    Scene *scene = orvane::Kernel()->Scene();
+    Geometry *a = addToScene(cube());
+    Geometry *b = addToScene(cube());
+    Geometry *c = addToScene(cube());
+    for (Geometry *geometry : {b, a, c})
+        scene->SetActiveGeometry(geometry);
+    for (Geometry *geometry : {a, b, c}) {
+        const QVector<Geometry *> order = scene->Geometries();
+        const QVector<Geometry *> active = scene->ActiveHistory();
+        const int id = geometry->ID();
+        const orvane::ScenePlace place = scene->PlaceOf(geometry);
+        scene->Remove(geometry);
+        EXPECT_FALSE(scene->Contains(geometry));
+        EXPECT_TRUE(scene->Restore(geometry, place));
+        EXPECT_EQ(scene->Geometries(), order);
+        EXPECT_EQ(scene->ActiveHistory(), active);
+        EXPECT_EQ(geometry->ID(), id);
+    }
+}
+
+TEST_F(InTheScene, aPlaceOutOfRangeIsTheEnd)
+{
+    Scene *scene = orvane::Kernel()->Scene();
+    addToScene(cube());
+    auto *geometry = new Geometry;
+    orvane::ScenePlace place;
+    place.index = 7;
+    place.activeRank = 9;
+    EXPECT_TRUE(scene->Restore(geometry, place));
+    EXPECT_EQ(scene->PlaceOf(geometry).index, 1);
+    EXPECT_EQ(scene->ActiveGeometry(), geometry);
+}
+
+TEST_F(InTheScene, onlyGeometriesAndCurvesAreTakenAndOnlyOnce)
+{
+    Scene *scene = orvane::Kernel()->Scene();
+    orvane::Node node;
+    EXPECT_FALSE(scene->Restore(&node, {}));
+    EXPECT_FALSE(scene->Restore(nullptr, {}));
+    EXPECT_FALSE(scene->Restore(addToScene(cube()), {}));
+    EXPECT_EQ(scene->NodeCount(), 1);
+    EXPECT_EQ(scene->PlaceOf(&node).index, -1);
+}
+
+TEST_F(InTheScene, curvesAreDrawnOnTheFirstGeometryUnlessAnotherIsChosen)
+{
+    Scene *scene = orvane::Kernel()->Scene();
+    EXPECT_EQ(scene->DrawingSurface(), nullptr);
+    Geometry *first = addToScene(cube());
+    Geometry *second = addToScene(cube());
+    EXPECT_EQ(scene->DrawingSurface(), first);
+    scene->SetDrawingSurface(second);
+    EXPECT_EQ(scene->DrawingSurface(), second);
+    const orvane::ScenePlace place = scene->PlaceOf(second);
+    scene->Remove(second);
+    EXPECT_EQ(scene->DrawingSurface(), first);
+    scene->Restore(second, place);
+    EXPECT_EQ(scene->DrawingSurface(), second) << "undo brought it back";
+    scene->SetDrawingSurface(nullptr);
+    EXPECT_EQ(scene->DrawingSurface(), first);
 }

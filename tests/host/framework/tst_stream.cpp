@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <climits>
 
@@ -217,6 +219,42 @@ TEST(Stream, endsWhenTheDeviceTakesNoMore)
     stream.Write(&value, sizeof(value));
     EXPECT_FALSE(stream.IsOk());
     EXPECT_EQ(stream.BytesLeft(), 0);
+}
+
+TEST(Stream, writesTheSameToAFileAsToMemory)
+{
+    const auto write = [](Stream &stream) {
+        QVector<int> numbers{1, -2, 3};
+        QString text = QStringLiteral("Bl\u00e4tter");
+        stream.Transfer(numbers);
+        stream.Transfer(text);
+    };
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("stream")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    Stream stream(&file, Stream::Writing);
+    write(stream);
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), Bytes(write).data());
+}
+
+TEST(Stream, endsAtTheEndOfAFileAsInMemory)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("stream")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\x02\0\0\0\x07\0\0\0\x08\0", 10); // of two numbers the second is cut off
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    Stream stream(&file, Stream::Reading);
+    EXPECT_EQ(stream.BytesLeft(), 10);
+    QVector<int> numbers{5};
+    stream.Transfer(numbers);
+    EXPECT_TRUE(numbers.isEmpty()) << "the count asks for more than the file has";
+    EXPECT_FALSE(stream.IsOk());
+    EXPECT_EQ(stream.ReadInt(), 0);
+    EXPECT_EQ(file.pos(), 4);
 }
 
 TEST_F(NodeReference, findsItsNodeAgain)

@@ -269,6 +269,44 @@ TEST_F(Undoing, isEmptyAfterClear)
     EXPECT_EQ(m_queue.StepCount(), 0);
 }
 
+TEST_F(Undoing, goesOnWithWhatAnotherQueueKept)
+{
+    add(1);
+    add(20);
+    add(300, true);
+    add(4000);
+    m_queue.Undo();
+    UndoQueue other;
+    other.Restore(m_queue.Steps(), m_queue.Position());
+    EXPECT_EQ(other.StepCount(), 3);
+    EXPECT_EQ(other.Position(), 2);
+    EXPECT_TRUE(other.Redo());
+    EXPECT_EQ(NumberOperation::number, 4321);
+    EXPECT_TRUE(other.Undo());
+    EXPECT_TRUE(other.Undo());
+    EXPECT_EQ(NumberOperation::number, 1);
+    EXPECT_TRUE(other.Undo());
+    EXPECT_FALSE(other.Undo());
+}
+
+TEST_F(Undoing, restoresWithoutEmptyStepsAndAtAPositionInRange)
+{
+    add(1);
+    add(20);
+    const QVector<orvane::UndoStep> steps{{}, m_queue.Steps()[0], {}, m_queue.Steps()[1]};
+    const auto positionAfter = [this, &steps](int position) {
+        m_queue.Restore(steps, position);
+        EXPECT_EQ(m_queue.StepCount(), 2);
+        return m_queue.Position();
+    };
+    EXPECT_EQ(positionAfter(-1), 0);
+    EXPECT_EQ(positionAfter(1), 0);
+    EXPECT_EQ(positionAfter(2), 1);
+    EXPECT_EQ(positionAfter(3), 1);
+    EXPECT_EQ(positionAfter(4), 2);
+    EXPECT_EQ(positionAfter(1000), 2);
+}
+
 TEST_F(Undoing, namesItsStepsByTheirClass)
 {
     add(1);

@@ -18,8 +18,13 @@ public:
     //! initialised, and answers the first. Null in a descriptor marks an abstract class.
     using Factory = Node *(*)(unsigned count);
 
+    enum Flag {
+        SelectionOnly = 1, //!< an operation that changes what is selected, and nothing else
+    };
+
     //! parent: the base class, null for the root. category: the class under which a host lists
-    //! this one. A name that is taken already is refused and logged: the first one stays.
+    //! this one. flags: of Flag. A name that is taken already is refused and logged: the first one
+    //! stays.
     ClassDesc(const ClassDesc *parent, const ClassDesc *category, const char *name,
               const char *displayName, Factory factory, int version, int flags);
     ~ClassDesc();

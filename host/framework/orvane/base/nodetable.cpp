@@ -66,4 +66,10 @@ void NodeTable::Reserve(int lastID)
     m_lastID = qMax(m_lastID, lastID);
 }
 
+void NodeTable::Restart()
+{
+    if (m_nodes.isEmpty())
+        m_lastID = 0;
+}
+
 } // namespace orvane

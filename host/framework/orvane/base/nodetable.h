@@ -31,6 +31,8 @@ public:
     void Renumber(Node *node, int id);
     //! Numbers up to this one count as given.
     void Reserve(int lastID);
+    //! Numbers begin anew, for another scene. Only while the table is empty.
+    void Restart();
 
 private:
     NodeTable() = default;

@@ -61,15 +61,21 @@ Node *Stream::ReadNode()
 void Stream::Transfer(QString &text)
 {
     QByteArray utf8 = text.toUtf8();
-    int size = utf8.size();
+    Transfer(utf8);
+    if (!IsWriting())
+        text = QString::fromUtf8(utf8);
+}
+
+void Stream::Transfer(QByteArray &bytes)
+{
+    int size = bytes.size();
     if (IsWriting()) {
         Write(&size, qint64(sizeof(size)));
-        Write(utf8.constData(), size);
+        Write(bytes.constData(), size);
         return;
     }
-    utf8.resize(ReadCount(1));
-    Read(utf8.data(), utf8.size());
-    text = QString::fromUtf8(utf8);
+    bytes.resize(ReadCount(1));
+    Read(bytes.data(), bytes.size());
 }
 
 void Stream::Transfer(bool &flag)

@@ -3,6 +3,7 @@
 
 #include <orvane/math/export.h>
 
+#include <QByteArray>
 #include <QString>
 #include <QVector>
 
@@ -70,6 +71,7 @@ public:
             Read(values.data(), size);
     }
     void Transfer(QString &text);
+    void Transfer(QByteArray &bytes);
     //! One byte; any but 0 reads as true.
     void Transfer(bool &flag);
 

@@ -6,6 +6,8 @@
 #include <orvane/base/stream.h>
 #include <orvane/geometry/subdivisionlevel.h>
 
+#include <algorithm>
+
 namespace orvane {
 
 Geometry::Geometry() : m_placement(new orvane::Placement) {}
@@ -13,6 +15,14 @@ Geometry::Geometry() : m_placement(new orvane::Placement) {}
 Geometry::~Geometry()
 {
     qDeleteAll(m_levels);
+}
+
+QVector<Node *> Geometry::Nodes()
+{
+    QVector<Node *> nodes{this, m_placement.data()};
+    for (SubdivisionLevel *level : qAsConst(m_levels))
+        nodes.append(level);
+    return nodes;
 }
 
 void Geometry::AddLevel(SubdivisionLevel *level)
@@ -74,6 +84,12 @@ void Geometry::Serialize(Stream &stream)
         m_levels.last()->Serialize(stream);
     }
     SetCurrentLevel(current);
+}
+
+bool Geometry::CheckValidity() const
+{
+    return std::all_of(m_levels.cbegin(), m_levels.cend(),
+                       [](const SubdivisionLevel *level) { return level->CheckValidity(); });
 }
 
 const ClassDesc *Geometry::RuntimeClass() const

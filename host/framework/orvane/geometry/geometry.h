@@ -25,6 +25,8 @@ public:
     SubdivisionLevel *Level(int index) const { return m_levels.value(index); }
     //! The level that is shown and drawn on; null while there is none.
     SubdivisionLevel *CurrentLevel() const { return m_levels.value(m_currentLevel); }
+    //! Itself, its placement, its levels: every node that has a number of its own.
+    QVector<Node *> Nodes();
     //! The companion node, owned; never null.
     orvane::Placement *Placement() const { return m_placement.data(); }
     bool IsHidden() const { return m_hidden; }
@@ -39,6 +41,7 @@ public:
     void TakePlacementOf(const Geometry &other);
 
     void Serialize(Stream &stream) override;
+    bool CheckValidity() const override;
     const ClassDesc *RuntimeClass() const override;
     static const ClassDesc *StaticClass();
 

@@ -7,6 +7,7 @@
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/placement.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvane {
@@ -195,6 +196,15 @@ bool Mesh::cornersInRange() const
                               && (m_fake.isEmpty() || !m_fake[0])
                               && (m_uvCorners.isEmpty() || m_uvCorners.size() == m_corners.size());
     return lengthsAgree && all(m_corners, 0, VertexCount()) && all(m_uvCorners, -1, UVCount());
+}
+
+bool Mesh::CheckValidity() const
+{
+    const auto isFinite = [](const Vector &v) {
+        return v.IsFinite();
+    };
+    return std::all_of(m_positions.cbegin(), m_positions.cend(), isFinite)
+           && std::all_of(m_normals.cbegin(), m_normals.cend(), isFinite);
 }
 
 const ClassDesc *Mesh::RuntimeClass() const

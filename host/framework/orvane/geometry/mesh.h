@@ -67,6 +67,8 @@ public:
     virtual void SetChanged(bool changed);
 
     void Serialize(Stream &stream) override;
+    //! Are all positions and normals finite?
+    bool CheckValidity() const override;
     const ClassDesc *RuntimeClass() const override;
     static const ClassDesc *StaticClass();
 

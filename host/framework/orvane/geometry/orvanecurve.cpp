@@ -6,6 +6,7 @@
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/mesh.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvane {
@@ -51,6 +52,14 @@ void OrvaneCurve::Serialize(Stream &stream)
 {
     CurveBase::Serialize(stream);
     stream.Transfer(m_points);
+}
+
+bool OrvaneCurve::CheckValidity() const
+{
+    return std::all_of(m_points.cbegin(), m_points.cend(), [](const CurvePoint &point) {
+        return point.position.IsFinite() && point.surfacePoint.WorldPosition().IsFinite()
+               && std::isfinite(point.surfacePoint.U()) && std::isfinite(point.surfacePoint.V());
+    });
 }
 
 const ClassDesc *OrvaneCurve::RuntimeClass() const

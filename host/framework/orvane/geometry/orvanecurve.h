@@ -31,6 +31,8 @@ public:
     orvane::Geometry *Geometry() const override;
     bool IsUsable() const override;
     void Serialize(Stream &stream) override;
+    //! Are all points at finite places?
+    bool CheckValidity() const override;
     const ClassDesc *RuntimeClass() const override;
     static const ClassDesc *StaticClass();
 

@@ -8,7 +8,6 @@
 #include <orvane/kernel/interface.h>
 #include <orvane/kernel/preferences.h>
 #include <orvane/kernel/scene.h>
-#include <orvane/kernel/selectalloperation.h>
 #include <orvane/kernel/viewport.h>
 
 #include <QCoreApplication>
@@ -51,6 +50,17 @@ void Kernel::SetViewPort(orvane::ViewPort *viewPort)
     m_viewPort = viewPort ? viewPort : m_silentViewPort.data();
 }
 
+bool Kernel::NewScene()
+{
+    if (m_running)
+        return false;
+    m_undos.Clear();
+    m_scene->Clear();
+    NodeTable::Instance().Restart();
+    m_scene->SetChanged(false);
+    return true;
+}
+
 Node *Kernel::CreateClassInstance(const ClassDesc *desc) const
 {
     return desc ? desc->Create() : nullptr;
@@ -67,9 +77,7 @@ bool Kernel::DoOperation(Operation *operation, bool interactive, bool merge)
         return false;
     // A tool that tidies the selection before its own work leaves no step the user did not make,
     // and nothing to save.
-    const bool tidying =
-        !interactive && operation->RuntimeClass()->IsA(SelectAllOperation::StaticClass());
-    if (tidying)
+    if (!interactive && operation->RuntimeClass()->Flags() & ClassDesc::SelectionOnly)
         return true;
     m_undos.Push(operation, merge);
     m_scene->SetChanged(true);
@@ -79,6 +87,7 @@ bool Kernel::DoOperation(Operation *operation, bool interactive, bool merge)
 bool Kernel::run(Operation *operation, bool interactive)
 {
     QScopedValueRollback<bool> running(m_running, true);
+    ++m_operationCount;
     m_failureReason.clear();
     if (interactive)
         m_interface->SetBusy(true);

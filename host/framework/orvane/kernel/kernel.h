@@ -29,11 +29,17 @@ public:
     UndoQueue &Undos() { return m_undos; }
     bool IsTestModeOn() const { return m_testMode; }
     bool IsOperationRunning() const { return m_running; }
+    //! How many operations were run so far, whatever came of them; undo and redo do not count.
+    int OperationCount() const { return m_operationCount; }
 
     //! What shows and draws from now on; not owned. Null for what shows nothing.
     void SetInterface(orvane::Interface *interface);
     void SetViewPort(orvane::ViewPort *viewPort);
     void SetTestMode(bool on) { m_testMode = on; }
+
+    //! Empties scene and undo queue and lets numbers begin anew; there is nothing to save then.
+    //! False, and nothing happens, while an operation runs.
+    bool NewScene();
 
     //! A new object of the class, owned by the caller; null for null or an abstract class.
     Node *CreateClassInstance(const ClassDesc *desc) const;
@@ -75,6 +81,7 @@ private:
     QString m_failureReason;
     bool m_testMode = false;
     bool m_running = false;
+    int m_operationCount = 0;
 };
 
 // The function is named like its class on purpose: plug-ins write Kernel()->Scene(), and the

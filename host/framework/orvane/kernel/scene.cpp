@@ -5,21 +5,9 @@
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/geometry/subdivisionlevel.h>
+#include <orvane/kernel/noderecord.h>
 
 namespace orvane {
-
-namespace {
-
-template <typename Visit>
-void forEachPart(Geometry *geometry, Visit visit)
-{
-    visit(geometry);
-    visit(geometry->Placement());
-    for (int i = 0; i < geometry->LevelCount(); ++i)
-        visit(geometry->Level(i));
-}
-
-} // namespace
 
 Scene::~Scene()
 {
@@ -51,34 +39,65 @@ Mesh *Scene::CreateMesh(Topology::FaceType type) const
     return new SubdivisionLevel(type);
 }
 
+Geometry *Scene::DrawingSurface() const
+{
+    Node *chosen = NodeTable::Instance().Find(m_drawingSurface);
+    if (auto *geometry = dynamic_cast<Geometry *>(chosen))
+        return geometry;
+    return Geometries().value(0);
+}
+
+ScenePlace Scene::PlaceOf(const Node *node) const
+{
+    ScenePlace place;
+    place.index = m_nodes.indexOf(const_cast<Node *>(node));
+    const auto *geometry = dynamic_cast<const Geometry *>(node);
+    place.activeRank = m_activeHistory.indexOf(const_cast<Geometry *>(geometry));
+    return place;
+}
+
 void Scene::AddGeometry(Geometry *geometry)
 {
-    if (!geometry || Contains(geometry))
-        return;
-    m_nodes.append(geometry);
-    forEachPart(geometry, [](Node *node) { NodeTable::Instance().Enter(node); });
+    Restore(geometry, ScenePlace());
 }
 
 void Scene::RemoveGeometry(Geometry *geometry)
 {
-    if (!geometry || !m_nodes.removeOne(geometry))
-        return;
-    m_activeHistory.removeAll(geometry);
-    forEachPart(geometry, [](Node *node) { NodeTable::Instance().Leave(node); });
+    Remove(geometry);
 }
 
 void Scene::AddCurve(OrvaneCurve *curve)
 {
-    if (!curve || Contains(curve))
-        return;
-    m_nodes.append(curve);
-    NodeTable::Instance().Enter(curve);
+    Restore(curve, ScenePlace());
 }
 
 void Scene::RemoveCurve(OrvaneCurve *curve)
 {
-    if (curve && m_nodes.removeOne(curve))
-        NodeTable::Instance().Leave(curve);
+    Remove(curve);
+}
+
+bool Scene::Restore(Node *node, const ScenePlace &place)
+{
+    const QVector<Node *> parts = partsOf(node);
+    if (parts.isEmpty() || Contains(node))
+        return false;
+    const bool inList = place.index >= 0 && place.index < m_nodes.size();
+    m_nodes.insert(inList ? place.index : m_nodes.size(), node);
+    for (Node *part : parts)
+        NodeTable::Instance().Enter(part);
+    auto *geometry = dynamic_cast<Geometry *>(node);
+    if (geometry && place.activeRank >= 0)
+        m_activeHistory.insert(qMin(place.activeRank, m_activeHistory.size()), geometry);
+    return true;
+}
+
+void Scene::Remove(Node *node)
+{
+    if (!node || !m_nodes.removeOne(node))
+        return;
+    m_activeHistory.removeAll(dynamic_cast<Geometry *>(node));
+    for (Node *part : partsOf(node))
+        NodeTable::Instance().Leave(part);
 }
 
 void Scene::Clear()
@@ -86,6 +105,7 @@ void Scene::Clear()
     m_activeHistory.clear();
     qDeleteAll(m_nodes); // each leaves the node table as it goes
     m_nodes.clear();
+    m_drawingSurface = 0;
 }
 
 void Scene::SetActiveGeometry(Geometry *geometry)
@@ -94,6 +114,11 @@ void Scene::SetActiveGeometry(Geometry *geometry)
         return;
     m_activeHistory.removeAll(geometry);
     m_activeHistory.append(geometry);
+}
+
+void Scene::SetDrawingSurface(const Geometry *geometry)
+{
+    m_drawingSurface = geometry ? geometry->ID() : 0;
 }
 
 } // namespace orvane

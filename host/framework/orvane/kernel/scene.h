@@ -12,6 +12,13 @@ class Mesh;
 class Node;
 class OrvaneCurve;
 
+//! Where a node stands in the scene, so that one that comes back stands there again.
+struct ScenePlace
+{
+    int index = -1;      // in the list; -1: at its end
+    int activeRank = -1; // among the geometries that were made active; -1: it never was
+};
+
 //! The geometries and curves people work on, in the order they came. It owns what is in it.
 class ORVANE_EXPORT Scene
 {
@@ -25,8 +32,14 @@ public:
     //! Null when out of range.
     Node *NodeAt(int index) const { return m_nodes.value(index); }
     bool Contains(const Node *node) const;
+    ScenePlace PlaceOf(const Node *node) const;
     //! The geometries among the nodes, in order.
     QVector<Geometry *> Geometries() const;
+    //! The geometries that were made active and are still here, the latest last, each once.
+    const QVector<Geometry *> &ActiveHistory() const { return m_activeHistory; }
+    //! The geometry that curve tools draw on: the one that was chosen, while it is here, else the
+    //! first; null when there is none.
+    Geometry *DrawingSurface() const;
     //! The geometry that was made active last of those still here; null when none was.
     Geometry *ActiveGeometry() const;
     //! Has it changed since it was last saved?
@@ -41,16 +54,22 @@ public:
     void RemoveGeometry(Geometry *geometry);
     void AddCurve(OrvaneCurve *curve);
     void RemoveCurve(OrvaneCurve *curve);
+    //! Takes a geometry or curve over at the place it had; any other node is refused: false.
+    bool Restore(Node *node, const ScenePlace &place);
+    //! Gives a geometry or curve back to the caller, as RemoveGeometry and RemoveCurve do.
+    void Remove(Node *node);
     //! Destroys all that is in it.
     void Clear();
 
     //! A geometry that is not in the scene, or null, is ignored.
     void SetActiveGeometry(Geometry *geometry);
+    void SetDrawingSurface(const Geometry *geometry);
     void SetChanged(bool changed) { m_changed = changed; }
 
 private:
-    QVector<Node *> m_nodes;             // owned
-    QVector<Geometry *> m_activeHistory; // the latest last, each once
+    QVector<Node *> m_nodes; // owned
+    QVector<Geometry *> m_activeHistory;
+    int m_drawingSurface = 0; // node number; 0: none was chosen
     bool m_changed = false;
 };
 

@@ -45,8 +45,9 @@ const ClassDesc *SelectAllOperation::RuntimeClass() const
 const ClassDesc *SelectAllOperation::StaticClass()
 {
     static const ClassDesc desc(Operation::StaticClass(), Operation::StaticClass(),
-                                "SelectAllOperation", "Select All",
-                                createInstances<SelectAllOperation>, 0, 0);
+                                "SelectAllOperation",
+                                QT_TRANSLATE_NOOP("SelectAllOperation", "Select All"),
+                                createInstances<SelectAllOperation>, 0, ClassDesc::SelectionOnly);
     return &desc;
 }
 

@@ -39,7 +39,7 @@ QString UndoQueue::RedoText() const
     return CanRedo() ? textOf(m_steps[m_position]) : QString();
 }
 
-QString UndoQueue::textOf(const Step &step)
+QString UndoQueue::textOf(const UndoStep &step)
 {
     const QString className = step.first().className;
     const ClassDesc *desc = ClassDesc::ByName(className);
@@ -51,7 +51,7 @@ void UndoQueue::Push(Operation *operation, bool merge)
 {
     m_steps.resize(m_position);
     if (!merge || m_steps.isEmpty())
-        m_steps.append(Step());
+        m_steps.append(UndoStep());
     m_steps.last().append({operation->RuntimeClass()->Name(), bytesOf(operation)});
     m_position = m_steps.size();
     enforceLimits();
@@ -62,7 +62,7 @@ void UndoQueue::enforceLimits()
     qint64 bytes = 0;
     int kept = 0;
     for (int i = m_steps.size() - 1; i >= 0; --i) {
-        for (const Record &record : qAsConst(m_steps[i]))
+        for (const OperationRecord &record : qAsConst(m_steps[i]))
             bytes += record.bytes.size();
         if (kept > 0 && (kept == MaximumSteps || bytes > m_maximumBytes))
             break;
@@ -73,7 +73,7 @@ void UndoQueue::enforceLimits()
     m_position -= dropped;
 }
 
-bool UndoQueue::run(Record &record)
+bool UndoQueue::run(OperationRecord &record)
 {
     const ClassDesc *desc = ClassDesc::ByName(record.className);
     QScopedPointer<Node> node(desc ? desc->Create() : nullptr);
@@ -102,7 +102,7 @@ bool UndoQueue::Undo()
 {
     if (!CanUndo())
         return false;
-    Step &step = m_steps[m_position - 1];
+    UndoStep &step = m_steps[m_position - 1];
     for (int i = step.size() - 1; i >= 0; --i) {
         if (run(step[i]))
             continue;
@@ -118,7 +118,7 @@ bool UndoQueue::Redo()
 {
     if (!CanRedo())
         return false;
-    Step &step = m_steps[m_position];
+    UndoStep &step = m_steps[m_position];
     for (int i = 0; i < step.size(); ++i) {
         if (run(step[i]))
             continue;
@@ -134,6 +134,17 @@ void UndoQueue::Clear()
 {
     m_steps.clear();
     m_position = 0;
+}
+
+void UndoQueue::Restore(const QVector<UndoStep> &steps, int position)
+{
+    Clear();
+    for (int i = 0; i < steps.size(); ++i) {
+        if (steps[i].isEmpty())
+            continue;
+        m_steps.append(steps[i]);
+        m_position += i < position;
+    }
 }
 
 } // namespace orvane

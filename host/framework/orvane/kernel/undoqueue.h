@@ -11,6 +11,16 @@ namespace orvane {
 
 class Operation;
 
+//! One operation that ran: its class and what Serialize wrote.
+struct OperationRecord
+{
+    QString className;
+    QByteArray bytes;
+};
+
+//! What one undo takes back: the operations of a step, in the order they ran.
+using UndoStep = QVector<OperationRecord>;
+
 //! The operations that can be undone and redone. It keeps bytes, not objects: each undo or redo
 //! makes a fresh object through its class descriptor, reads it, runs it and writes it back, so
 //! operations of any class can be kept without the host knowing them.
@@ -26,6 +36,10 @@ public:
     bool CanUndo() const { return m_position > 0; }
     bool CanRedo() const { return m_position < m_steps.size(); }
     int StepCount() const { return m_steps.size(); }
+    //! Oldest first.
+    const QVector<UndoStep> &Steps() const { return m_steps; }
+    //! How many of the steps are done; the others were undone.
+    int Position() const { return m_position; }
     //! What undo or redo would undo or redo, for a menu: the class's display text in the user's
     //! language, empty when there is nothing.
     QString UndoText() const;
@@ -39,22 +53,17 @@ public:
     bool Undo();
     bool Redo();
     void Clear();
+    //! Takes over what another session kept. Steps without operations are left out; a position
+    //! out of range is moved into it.
+    void Restore(const QVector<UndoStep> &steps, int position);
 
 private:
-    //! One operation: its class and what Serialize wrote.
-    struct Record
-    {
-        QString className;
-        QByteArray bytes;
-    };
-    using Step = QVector<Record>;
-
-    static QString textOf(const Step &step);
-    static bool run(Record &record);
+    static QString textOf(const UndoStep &step);
+    static bool run(OperationRecord &record);
     void enforceLimits();
 
     qint64 m_maximumBytes;
-    QVector<Step> m_steps;
+    QVector<UndoStep> m_steps;
     int m_position = 0; // steps before it are done, from it on undone
 };
 

@@ -105,6 +105,8 @@ bool Matrix::Invert()
     double inverse[4][4];
     for (int row = 0; row < 4; ++row) {
         for (int column = 0; column < 4; ++column) {
+            if (!std::isfinite(m_element[row][column]))
+                return false;
             work[row][column] = m_element[row][column];
             inverse[row][column] = row == column ? 1.0 : 0.0;
         }
