@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/meshfile.h"
 
-#include "host/files/fanstart.h"
 #include "host/files/assimpmesh.h"
 #include "host/files/binarymesh.h"
+#include "host/files/fanstart.h"
 #include "host/files/gltfmesh.h"
 #include "host/files/objmesh.h"
 #include "host/files/plycheck.h"

@@ -19,6 +19,13 @@ bool refuse(const QString &path, const QString &text, QString *error)
     return false;
 }
 
+bool refuseToRead(const QFile &file, QString *error)
+{
+    return refuse(file.fileName(),
+                  QStringLiteral("it cannot be read: %1.").arg(withoutFullStop(file.errorString())),
+                  error);
+}
+
 } // namespace
 
 QString aboutFile(const QString &path, const QString &text)
@@ -57,39 +64,50 @@ QString withoutFullStop(QString text)
     return text;
 }
 
-bool readWhole(const QString &path, QByteArray *bytes, QString *error)
+bool openForReading(QFile *file, QString *error)
 {
+    const QString path = file->fileName();
     const QFileInfo info(path);
     if (!info.exists())
         return refuse(path, QStringLiteral("no such file."), error);
     if (!info.isFile())
         return refuse(path, QStringLiteral("this is a folder or a device; expected a file."),
                       error);
-    if (info.size() > std::numeric_limits<int>::max())
-        return refuse(path, QStringLiteral("the file is too large; expected less than 2 GiB."),
-                      error);
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        *bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        return refuse(
-            path, QStringLiteral("it cannot be read: %1.").arg(withoutFullStop(file.errorString())),
-            error);
-    }
-    if (bytes->isEmpty())
+    if (!file->open(QIODevice::ReadOnly))
+        return refuseToRead(*file, error);
+    if (file->size() == 0)
         return refuse(path, QStringLiteral("the file is empty."), error);
     return true;
 }
 
+bool readWhole(const QString &path, QByteArray *bytes, QString *error)
+{
+    QFile file(path);
+    if (!openForReading(&file, error))
+        return false;
+    if (file.size() > std::numeric_limits<int>::max())
+        return refuse(path, QStringLiteral("the file is too large; expected less than 2 GiB."),
+                      error);
+    *bytes = file.readAll();
+    return file.error() == QFileDevice::NoError || refuseToRead(file, error);
+}
+
 bool writeWhole(const QString &path, const QByteArray &bytes, QString *error)
+{
+    const auto write = [&bytes](QIODevice *device) {
+        return device->write(bytes) == bytes.size();
+    };
+    return writeWhole(path, write, error);
+}
+
+bool writeWhole(const QString &path, const std::function<bool(QIODevice *)> &write, QString *error)
 {
     if (!isPlaceForFile(path, error))
         return false;
     QSaveFile file(path);
     errno = 0;
     // Without the flush commit would rename a file whose last bytes found no room.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()
-        && file.commit())
+    if (file.open(QIODevice::WriteOnly) && write(&file) && file.flush() && file.commit())
         return true;
     // The system's own word first: Qt has none for a disk that fills up during a flush.
     const QString why = errno != 0 ? qt_error_string(errno) : file.errorString();

@@ -6,6 +6,11 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
+class QFile;
+class QIODevice;
+
 namespace orvane {
 
 //! A sentence about a file: its path, a colon, the text.
@@ -18,11 +23,17 @@ ORVANE_FILES_EXPORT bool isPlaceForFile(const QString &path, QString *error);
 //! A message of someone else's, to be built into a sentence.
 QString withoutFullStop(QString text);
 
+//! Opens a file of at least one byte for reading. False, and one sentence in *error, when it cannot
+//! be.
+bool openForReading(QFile *file, QString *error);
+
 //! Reads a file of at least one byte. False, and one sentence in *error, when it cannot be read.
 ORVANE_FILES_EXPORT bool readWhole(const QString &path, QByteArray *bytes, QString *error);
 
 //! Writes a file that appears under its name, or replaces the old one, only once it is whole.
 //! False, and one sentence in *error, when it could not be; the old file is then as it was.
 ORVANE_FILES_EXPORT bool writeWhole(const QString &path, const QByteArray &bytes, QString *error);
+//! The same of what the function writes; it answers whether all of it was written.
+bool writeWhole(const QString &path, const std::function<bool(QIODevice *)> &write, QString *error);
 
 } // namespace orvane
