@@ -3,11 +3,12 @@
 
 #include "ui/meshfaultrows.h"
 
+#include <orvane/widgets/picture.h>
+
 #include <QFrame>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -81,7 +82,7 @@ void ValidateMeshFeedbackmDialog::addFaultRow(QGridLayout *grid, const QString &
     // An empty grid has one row all the same.
     const int row = grid->count() == 0 ? 0 : grid->rowCount();
     auto *picture = new QLabel(this);
-    picture->setPixmap(QPixmap(icon));
+    picture->setPixmap(orvane::loadPicture(icon, devicePixelRatioF()));
     grid->addWidget(picture, row, 0);
 
     auto *message = new QLabel(text, this);
