@@ -2,6 +2,7 @@
 #include "operation/manualretopooperation.h"
 #include "tests/operation/operationscene.h"
 #include "tests/operation/operationstate.h"
+#include "tests/support/countingview.h"
 #include "tests/support/recordinginterface.h"
 
 #include <orvane/base/classdesc.h>
@@ -10,7 +11,6 @@
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/kernel/kernel.h>
 #include <orvane/kernel/scene.h>
-#include <orvane/kernel/viewport.h>
 
 using orvane::OrvaneCurve;
 
@@ -18,23 +18,6 @@ namespace {
 
 class ManualRetopoOperationTest : public OperationScene
 {};
-
-class RecordingViewPort : public orvane::ViewPort
-{
-public:
-    RecordingViewPort() { orvane::Kernel()->SetViewPort(this); }
-    ~RecordingViewPort() override { orvane::Kernel()->SetViewPort(nullptr); }
-
-    void Redraw(orvane::RedrawType type, float left, float top, float right, float bottom) override
-    {
-        ++redraws;
-        if (int(type) != 0 || left != 0.0f || top != 0.0f || right != 0.0f || bottom != 0.0f)
-            ++partial;
-    }
-
-    int redraws = 0;
-    int partial = 0;
-};
 
 QVector<int> idsOf(const QVector<orvane::Geometry *> &geometries)
 {
@@ -67,7 +50,7 @@ TEST_F(ManualRetopoOperationTest, aParameterlessObjectReports5And30And08And0AndT
 TEST_F(ManualRetopoOperationTest, doWithNoUsableCurvesReturnsFalseKeepsTheFlagAndTriesAgainNextTime)
 {
     RecordingInterface interface;
-    const RecordingViewPort view;
+    const CountingView view;
     Sheet sheet;
     sheet.straight({1, 1, 0}, {4, 1, 0});
     const auto operation = operationOn(sheet.curves());
@@ -208,7 +191,7 @@ TEST_F(ManualRetopoOperationTest, theClassIsFoundByNameAndMakesOneObjectOrAnArra
 TEST_F(ManualRetopoOperationTest, doAndUndoEachRepaintTheViewAndRefreshThePanelsOnce)
 {
     RecordingInterface interface;
-    const RecordingViewPort view;
+    const CountingView view;
     Sheet sheet;
     drawCell(sheet, {2, 2, 0}, 2.0f);
     const auto operation = operationOn(sheet.curves());
@@ -217,7 +200,7 @@ TEST_F(ManualRetopoOperationTest, doAndUndoEachRepaintTheViewAndRefreshThePanels
         EXPECT_EQ(view.redraws, call);
         EXPECT_EQ(interface.refreshes, call);
     }
-    EXPECT_EQ(view.partial, 0);
+    EXPECT_EQ(view.partialRedraws, 0);
 }
 
 TEST_F(ManualRetopoOperationTest, theCreatedGeometryIsNamedAfterItsSource)
