@@ -28,7 +28,8 @@ namespace {
 
 const orvane::ClassDesc OperationClass(orvane::Operation::StaticClass(),
                                        orvane::Operation::StaticClass(), "ManualRetopoOperation",
-                                       "ManualRetopoOperation",
+                                       QT_TRANSLATE_NOOP("ManualRetopoOperation",
+                                                         "ManualRetopoOperation"),
                                        &ManualRetopoOperation::CreateInstances, 0, 0);
 
 void refreshHost()

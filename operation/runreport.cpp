@@ -5,10 +5,10 @@
 #include "graph/intersectionsearch.h"
 #include "mesh/buildmesh.h"
 #include "operation/currentreport.h"
+#include "operation/manualretopooperation.h"
 
 #include <orvane/geometry/mesh.h>
 
-#include <QCoreApplication>
 #include <QSet>
 
 namespace {
@@ -17,11 +17,6 @@ RunReport &currentReport()
 {
     static RunReport report;
     return report;
-}
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ManualRetopoOperation", source);
 }
 
 QVector<int> facesByCorners(const orvane::Mesh &mesh)
@@ -48,12 +43,13 @@ QString pieceFailure(const QVector<PieceReport> &pieces, int maximumEdges)
         discarded = discarded || piece.outcome == PieceReport::Discarded;
     }
     if (discarded)
-        return text("every mesh was discarded for its faults");
+        return ManualRetopoOperation::tr("every mesh was discarded for its faults");
     if (holes.overLimit > 0)
-        return text("no closed cell of the curves has at most %1 edges").arg(maximumEdges);
+        return ManualRetopoOperation::tr("no closed cell of the curves has at most %1 edges")
+            .arg(maximumEdges);
     if (holes.dangling > 0)
-        return text("loose ends keep every cell of the curves from closing");
-    return text("the curves cross, but close no cell");
+        return ManualRetopoOperation::tr("loose ends keep every cell of the curves from closing");
+    return ManualRetopoOperation::tr("the curves cross, but close no cell");
 }
 
 QString failureOf(const RunReport &report)
@@ -63,9 +59,9 @@ QString failureOf(const RunReport &report)
             return {};
     }
     if (report.curves == 0)
-        return text("there are no curves");
+        return ManualRetopoOperation::tr("there are no curves");
     if (report.crossings == 0)
-        return text("no two curves cross");
+        return ManualRetopoOperation::tr("no two curves cross");
     return pieceFailure(report.pieces, report.maximumEdges);
 }
 

@@ -10,7 +10,12 @@ ninja-build:the_build
 qtbase5-dev:containers,_dialogs,_pictures_(Qt_5.15)
 libassimp-dev:mesh_files
 libembree-dev:closest_points_and_picking
+libgl-dev:drawing_the_overlay
+zlib1g-dev:compression_in_scene_files
 fonts-dejavu-core:text_in_pictures_and_dialogs
+librsvg2-bin:icons_from_their_SVG_sources
+qttools5-dev:translations,_in_CMake
+qttools5-dev-tools:translations
 "
 TEST_PACKAGES="
 libgtest-dev:the_tests

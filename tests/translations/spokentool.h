@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/plugin/toolscene.h"
+#include "tests/support/workingfolder.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QMap>
+#include <QStringList>
+#include <QTranslator>
+
+namespace orvane {
+class Operation;
+}
+
+//! Fixture of tests on what the tool and its host say in a language. A new mesh with faults is
+//! discarded.
+class SpokenTool : public OperationScene
+{
+protected:
+    SpokenTool();
+    ~SpokenTool() override;
+
+    static void speak(const char *language);
+
+    //! What people read when no mesh can be made, by what they read of the reason in English.
+    QMap<QString, QString> failures();
+    //! The same for a geometry that cannot be moved.
+    QString failedTransformation();
+    //! What they read when there is nothing to make a mesh of.
+    QString missingCurves();
+    //! What the Edit menu calls a step of the class.
+    static QString undoText(const QString &className);
+
+    WindowInterface interface;
+    CountingView view;
+
+private:
+    QString messageOf(orvane::Operation &operation);
+
+    WorkingFolder m_folder; // without pictures and help pages
+    QLocale m_locale;
+};
+
+//! Notes what the program asks the translations for during its life, and translates nothing.
+class AskedTexts : public QTranslator
+{
+public:
+    AskedTexts() { QCoreApplication::installTranslator(this); }
+    ~AskedTexts() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override;
+
+    //! "context: text" each.
+    const QStringList &keys() const { return m_keys; }
+
+private:
+    mutable QStringList m_keys;
+};
