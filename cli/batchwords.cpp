@@ -61,6 +61,13 @@ QString pieceFailureInWords(const PieceReport &piece)
     return QStringLiteral("its curves close no cell");
 }
 
+QString acceptedFaultsInWords(int meshes)
+{
+    return QStringLiteral("WARNING: accepted %1 with faults; --on-faults discard refuses such "
+                          "meshes.")
+        .arg(meshes == 1 ? QStringLiteral("a mesh") : QStringLiteral("%1 meshes").arg(meshes));
+}
+
 QString placeInWords(const orvane::Vector &place)
 {
     return QStringLiteral("%1 %2 %3")

@@ -16,6 +16,8 @@ QString facesInWords(const QVector<int> &facesByCorners);
 QString holesInWords(const HoleCounts &holes);
 //! Why the piece made no mesh; empty for one that did.
 QString pieceFailureInWords(const PieceReport &piece);
+//! That so many meshes were kept although they have faults.
+QString acceptedFaultsInWords(int meshes);
 QString placeInWords(const orvane::Vector &place);
 
 //! Sums over all pieces that made a mesh; holes over all pieces.

@@ -12,6 +12,7 @@
 #include "host/files/curvefile.h"
 #include "host/files/meshfile.h"
 #include "host/files/safefile.h"
+#include "host/files/scenefile.h"
 #include "host/meshchecker/meshchecker.h"
 #include "operation/manualretopooperation.h"
 #include "operation/stageclock.h"
@@ -55,8 +56,11 @@ bool BuildJob::outputsCanBeWritten(QString *error) const
         return false;
     if (!m_options.dump.isEmpty() && !orvane::isPlaceForFile(m_options.dump, error))
         return false;
+    if (!m_options.scene.isEmpty() && !isSceneOutput(m_options.scene, error))
+        return false;
     return areOutputsApart({m_options.mesh, m_options.curves},
-                           {m_options.output, m_options.dump, m_options.picture}, error);
+                           {m_options.output, m_options.dump, m_options.picture, m_options.scene},
+                           error);
 }
 
 bool BuildJob::read(QString *error)
@@ -146,10 +150,7 @@ void BuildJob::warnOfFaults() const
     for (const MadeMesh &mesh : m_report.meshes)
         count += mesh.faultBits != 0;
     if (count > 0)
-        printLine(stderr, QStringLiteral("WARNING: accepted %1 with faults; --on-faults discard "
-                                         "refuses such meshes.")
-                              .arg(count == 1 ? QStringLiteral("a mesh")
-                                              : QStringLiteral("%1 meshes").arg(count)));
+        printLine(stderr, acceptedFaultsInWords(count));
 }
 
 bool BuildJob::write(const ManualRetopoOperation &operation, QString *error)
@@ -163,7 +164,12 @@ bool BuildJob::write(const ManualRetopoOperation &operation, QString *error)
             return false;
         m_report.written += m_options.output;
     }
-    // Dump and picture also show why a run made nothing.
+    // The others also show why a run made nothing.
+    if (!m_options.scene.isEmpty()) {
+        if (!orvane::writeScene(m_options.scene, error))
+            return false;
+        m_report.written += m_options.scene;
+    }
     if (!m_options.dump.isEmpty()) {
         if (!orvane::writeWhole(m_options.dump, dumpRun(m_options, m_curves, operation), error))
             return false;

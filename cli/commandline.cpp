@@ -2,6 +2,7 @@
 #include "cli/commandline.h"
 
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <cmath>
 
@@ -69,6 +70,7 @@ public:
 
     QString file(int index) const { return m_parser.positionalArguments().value(index); }
     QString value(const char *name) const { return m_parser.value(text(name)); }
+    QStringList values(const char *name) const { return m_parser.values(text(name)); }
     bool isSet(const char *name) const { return m_parser.isSet(text(name)); }
 
     int integer(const char *name, int minimum)
@@ -116,6 +118,16 @@ public:
         return value(name) == text(yes);
     }
 
+    QString language()
+    {
+        const QString code = value("language");
+        if (QLocale(code).language() == QLocale::C)
+            fail(QStringLiteral("--language: \"%1\" is no language; expected a code like de or "
+                                "en.")
+                     .arg(code));
+        return code;
+    }
+
     QString required(const char *name)
     {
         if (value(name).isEmpty())
@@ -161,16 +173,38 @@ const char *const BuildDescription =
     "Example:\n"
     "  quillmesh build head.obj head_curves.json -o head_light.obj --picture head.png";
 
-const char *const CheckDescription = "Says what is wrong with a mesh, in words and as bits.\n"
-                                     "Exit code 0: nothing; 4: it has faults. Vertices and faces count from 0.\n\n"
-                                     "Example:\n"
-                                     "  quillmesh check head_light.obj";
+const char *const CheckDescription =
+    "Says what is wrong with a mesh, in words and as bits.\n"
+    "Exit code 0: nothing; 4: it has faults. Vertices and faces count from 0.\n\n"
+    "Example:\n"
+    "  quillmesh check head_light.obj";
 
 const char *const PictureDescription = "Draws a mesh, and curves on it, as a picture.\n\n"
                                        "Example:\n"
                                        "  quillmesh picture head.obj head_curves.json -o head.png";
 
+const char *const ReplayDescription =
+    "Runs recorded commands on a scene, as the desktop would: every curve that is not hidden is\n"
+    "used. A command file has one command a line; empty lines and lines that begin with # are\n"
+    "comments. The scene may be its own output.\n\n"
+    "Example:\n"
+    "  quillmesh build head.obj head_curves.json -o head_light.obj --scene head.orvane\n"
+    "  echo manualretopo 4 0.3 0.05 35 0 > commands.txt\n"
+    "  quillmesh replay head.orvane commands.txt -o head_quads.orvane";
+
 const char *const SizeDescription = "Size of the picture in pixels (1600x1200).";
+
+void declareOnFaults(Words &words)
+{
+    words.option("on-faults", "Keep a mesh with faults, or discard it: accept or discard (accept).",
+                 "ANSWER", "accept");
+}
+
+void declareLanguage(Words &words)
+{
+    words.option("language", "Language of what the tool itself says, not of the report (en).",
+                 "CODE", "en");
+}
 
 void declareBuild(Words &words)
 {
@@ -189,15 +223,18 @@ void declareBuild(Words &words)
     words.option("overrun", "How far open curves are lengthened; % of their end segment (35).",
                  "PERCENT", "35");
     words.flag("self-intersections", "Crossings of a curve with itself become vertices too.");
-    words.option("on-faults", "Keep a mesh with faults, or discard it: accept or discard (accept).",
-                 "ANSWER", "accept");
+    declareOnFaults(words);
     words.option("bind-tolerance",
                  "How far a curve point may lie off the mesh; % of its diagonal (2).", "PERCENT",
                  "2");
     words.option("dump", "Write what the run used and made, as JSON.", "FILE");
     words.option("picture", "Draw the result as a PNG picture.", "FILE.png");
     words.option("size", SizeDescription, "WxH", "1600x1200");
+    words.option("scene",
+                 "Leave everything as a scene, to open in Orvane or to replay commands on.",
+                 "FILE.orvane");
     words.flag("json", "Give the report as JSON.");
+    declareLanguage(words);
 }
 
 } // namespace
@@ -222,6 +259,8 @@ ParseResult parseBuild(const QStringList &arguments, BuildOptions &options)
     options.dump = words.value("dump");
     options.picture = words.value("picture");
     options.pictureSize = words.size("size");
+    options.scene = words.value("scene");
+    options.language = words.language();
     return words.result();
 }
 
@@ -251,6 +290,29 @@ ParseResult parsePicture(const QStringList &arguments, PictureOptions &options)
     return words.result();
 }
 
+ParseResult parseReplay(const QStringList &arguments, ReplayOptions &options)
+{
+    Words words(QStringLiteral("replay"), ReplayDescription);
+    words.argument("SCENE", "The scene: an .orvane file.", "SCENE");
+    words.argument("COMMANDS", "The commands: a text file.", "COMMANDS.txt");
+    words.option({QStringLiteral("o"), QStringLiteral("output")}, "Where the scene goes.",
+                 "SCENE.orvane");
+    declareOnFaults(words);
+    words.flag("salvage", "Go on with what can be read of a damaged scene.");
+    words.option("plugins", "A folder with more plug-ins; may be given several times.", "FOLDER");
+    declareLanguage(words);
+    if (!words.read(arguments, 2, 2))
+        return words.result();
+    options.scene = words.file(0);
+    options.commands = words.file(1);
+    options.output = words.required("o");
+    options.acceptFaults = words.choice("on-faults", "accept", "discard");
+    options.salvage = words.isSet("salvage");
+    options.pluginFolders = words.values("plugins");
+    options.language = words.language();
+    return words.result();
+}
+
 QString programHelp()
 {
     return text(
@@ -259,7 +321,8 @@ QString programHelp()
         "Commands:\n"
         "  build MESH CURVES -o OUT     make a new mesh from curves drawn on a mesh\n"
         "  check MESH                   say what is wrong with a mesh\n"
-        "  picture MESH [CURVES] -o OUT draw a mesh and curves as a picture\n\n"
+        "  picture MESH [CURVES] -o OUT draw a mesh and curves as a picture\n"
+        "  replay SCENE COMMANDS -o OUT run recorded commands on a scene\n\n"
         "Options:\n"
         "  -h, --help     show this help; each command has its own: quillmesh build --help\n"
         "  -v, --version  show the version\n\n"

@@ -18,6 +18,7 @@ struct ParseResult
 ParseResult parseBuild(const QStringList &words, BuildOptions &options);
 ParseResult parseCheck(const QStringList &words, QString &mesh);
 ParseResult parsePicture(const QStringList &words, PictureOptions &options);
+ParseResult parseReplay(const QStringList &words, ReplayOptions &options);
 
 //! The help of the program itself.
 QString programHelp();

@@ -4,11 +4,13 @@
 #include "cli/commandline.h"
 #include "cli/dialoganswers.h"
 #include "cli/exitcode.h"
+#include "cli/replayjob.h"
 #include "cli/smalljobs.h"
 #include "cli/terminal.h"
 
 #include <orvane/base/log.h>
 #include <orvane/kernel/kernel.h>
+#include <orvane/kernel/language.h>
 #include <orvane/kernel/scene.h>
 
 #include <QApplication>
@@ -47,15 +49,33 @@ int answer(const ParseResult &parsed)
     return ExitWrongUsage;
 }
 
+// The reports are English; the tool's own texts can be another language.
+void prepareTool(const QString &language, bool acceptFaults, DialogAnswers &answers)
+{
+    if (!orvane::setLanguage(orvane::resourceFolder() + QStringLiteral("/Translations"), language))
+        printLine(stderr, QStringLiteral("There is no translation to \"%1\".").arg(language));
+    answers.setAnswer(QStringLiteral("ValidateMeshFeedbackmDialog"),
+                      acceptFaults ? QStringLiteral("accept") : QStringLiteral("close"));
+}
+
 int build(const QStringList &words, DialogAnswers &answers)
 {
     BuildOptions options;
     const ParseResult parsed = parseBuild(words, options);
     if (parsed.kind != ParseResult::Run)
         return answer(parsed);
-    answers.setAnswer(QStringLiteral("ValidateMeshFeedbackmDialog"),
-                      options.acceptFaults ? QStringLiteral("accept") : QStringLiteral("close"));
+    prepareTool(options.language, options.acceptFaults, answers);
     return BuildJob(options).run();
+}
+
+int replay(const QStringList &words, DialogAnswers &answers)
+{
+    ReplayOptions options;
+    const ParseResult parsed = parseReplay(words, options);
+    if (parsed.kind != ParseResult::Run)
+        return answer(parsed);
+    prepareTool(options.language, options.acceptFaults, answers);
+    return ReplayJob(options).run();
 }
 
 int check(const QStringList &words)
@@ -81,6 +101,8 @@ int runCommand(const QStringList &words, DialogAnswers &answers)
         return check(words.mid(1));
     if (command == QLatin1String("picture"))
         return picture(words.mid(1));
+    if (command == QLatin1String("replay"))
+        return replay(words.mid(1), answers);
     if (command == QLatin1String("-h") || command == QLatin1String("--help"))
         return answer({ParseResult::ShowHelp, programHelp()});
     if (command == QLatin1String("-v") || command == QLatin1String("--version"))

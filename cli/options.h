@@ -3,6 +3,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 //! What `quillmesh build` was asked for, in the units of the settings dialog.
 struct BuildOptions
@@ -20,6 +21,8 @@ struct BuildOptions
     bool json = false;
     QString dump;                  // empty: none
     QString picture;               // empty: none
+    QString scene;                 // empty: none
+    QString language;              // of what the tool says
     QSize pictureSize{1600, 1200}; // pixels
 };
 
@@ -30,4 +33,16 @@ struct PictureOptions
     QString curves; // empty: none
     QString output;
     QSize size{1600, 1200}; // pixels
+};
+
+//! What `quillmesh replay` was asked for.
+struct ReplayOptions
+{
+    QString scene;
+    QString commands;
+    QString output;
+    bool acceptFaults = true;
+    bool salvage = false; // go on with what can be read of a damaged scene
+    QStringList pluginFolders;
+    QString language; // of what the tool says
 };

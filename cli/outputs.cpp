@@ -20,6 +20,16 @@ QString placeOf(const QString &path)
     return QFileInfo(file.absolutePath()).canonicalFilePath() + QLatin1Char('/') + file.fileName();
 }
 
+bool isOutputOfKind(const QString &path, const char *suffix, const char *things, QString *error)
+{
+    if (QFileInfo(path).suffix().toLower() == QLatin1String(suffix))
+        return orvane::isPlaceForFile(path, error);
+    *error =
+        orvane::aboutFile(path, QStringLiteral("%1 written as .%2; expected a name that ends so.")
+                                    .arg(QLatin1String(things), QLatin1String(suffix)));
+    return false;
+}
+
 } // namespace
 
 bool isMeshOutput(const QString &path, QString *error)
@@ -29,11 +39,12 @@ bool isMeshOutput(const QString &path, QString *error)
 
 bool isPictureOutput(const QString &path, QString *error)
 {
-    if (QFileInfo(path).suffix().toLower() == QLatin1String("png"))
-        return orvane::isPlaceForFile(path, error);
-    *error = orvane::aboutFile(
-        path, QStringLiteral("pictures are written as .png; expected a name that ends so."));
-    return false;
+    return isOutputOfKind(path, "png", "pictures are", error);
+}
+
+bool isSceneOutput(const QString &path, QString *error)
+{
+    return isOutputOfKind(path, "orvane", "scenes are", error);
 }
 
 bool areOutputsApart(const QStringList &inputs, const QStringList &outputs, QString *error)

@@ -13,6 +13,7 @@ struct MeshFault;
 //! Can a file be made there? Each answers a sentence in error when not. Nothing is touched.
 bool isMeshOutput(const QString &path, QString *error);
 bool isPictureOutput(const QString &path, QString *error);
+bool isSceneOutput(const QString &path, QString *error);
 
 //! Is none of the outputs also an input or another output? Empty paths do not count.
 bool areOutputsApart(const QStringList &inputs, const QStringList &outputs, QString *error);
