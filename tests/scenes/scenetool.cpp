@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A process of its own for tests of scene files:
-//   scenetool states FILE PREFIX [undo|redo]...  opens the file and saves it as PREFIX0; after each
-//                                                word that follows as PREFIX1, PREFIX2, ...
-//   scenetool saves A B OUT                      opens A and B by turns and saves each as OUT,
-//   until
-//                                                it is killed
+//   scenetool states FILE PREFIX [undo|redo]...
+//     opens the file and saves it as PREFIX0; after each word that follows as PREFIX1, PREFIX2, ...
+//   scenetool saves A B OUT
+//     opens A and B by turns and saves each as OUT, says "ready" after the first time, and goes on
+//     until it is killed
 #include "host/files/scenefile.h"
 #include "tests/support/dialoganswer.h"
 
@@ -56,11 +56,18 @@ int runStates(const QStringList &words)
     return 0;
 }
 
+bool saveBoth(const QStringList &words)
+{
+    return open(words[0]) && save(words[2]) && open(words[1]) && save(words[2]);
+}
+
 int runSaves(const QStringList &words)
 {
+    if (!saveBoth(words))
+        return 1;
     std::puts("ready");
     std::fflush(stdout);
-    while (open(words[0]) && save(words[2]) && open(words[1]) && save(words[2])) {
+    while (saveBoth(words)) {
     }
     return 1;
 }
