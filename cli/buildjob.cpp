@@ -26,10 +26,8 @@
 int BuildJob::run()
 {
     QString error;
-    if (!outputsCanBeWritten(&error) || !read(&error)) {
-        printLine(stderr, error);
-        return ExitFileTrouble;
-    }
+    if (!outputsCanBeWritten(&error) || !read(&error))
+        return fileTrouble(error);
     return m_report.binding.bound == 0 ? refuseUnbound() : build();
 }
 
@@ -108,10 +106,8 @@ int BuildJob::build()
     warnOfFaults();
 
     QString error;
-    if (!write(operation, &error)) {
-        printLine(stderr, error);
-        return ExitFileTrouble;
-    }
+    if (!write(operation, &error))
+        return fileTrouble(error);
     if (m_options.json)
         print(stdout, QString::fromUtf8(reportJson(m_report)));
     else

@@ -134,16 +134,20 @@ int main(int argc, char **argv)
     // The same input gives the same picture, however large the user likes letters on a screen.
     for (const char *name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
         qunsetenv(name);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A desktop's own platform, which its sessions hand on, may not be there in a batch.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(toLog);
-    QApplication application(argc, argv);
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    int noWords = 1; // Qt would take those it knows for its own
+    QApplication application(noWords, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quillmesh"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUILLMESH_VERSION));
     BatchInterface interface;
     orvane::Kernel()->SetInterface(&interface);
     DialogAnswers answers;
-    const int code = afterOutput(runWithinMemory(application.arguments().mid(1), answers));
+    const int code = afterOutput(runWithinMemory(words, answers));
     orvane::Kernel()->Scene()->Clear();
     orvane::Kernel()->SetInterface(nullptr);
     return code;

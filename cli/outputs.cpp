@@ -17,7 +17,8 @@ QString placeOf(const QString &path)
     const QFileInfo file(path);
     if (file.exists())
         return file.canonicalFilePath();
-    return QFileInfo(file.absolutePath()).canonicalFilePath() + QLatin1Char('/') + file.fileName();
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? path : folder + QLatin1Char('/') + file.fileName();
 }
 
 bool isOutputOfKind(const QString &path, const char *suffix, const char *things, QString *error)

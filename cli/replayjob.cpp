@@ -15,28 +15,30 @@
 #include <orvane/kernel/pluginloader.h>
 #include <orvane/kernel/scene.h>
 
-#include <QTextStream>
+#include <QFileInfo>
 
 #include <algorithm>
 
 int ReplayJob::run()
 {
     QString error;
-    if (!outputCanBeWritten(&error) || !readCommands(&error) || !openScene(&error)) {
-        printLine(stderr, error);
-        return ExitFileTrouble;
-    }
+    if (!outputCanBeWritten(&error))
+        return fileTrouble(error);
+    const QVector<CommandLine> commands = readCommands(m_options.commands, &error);
+    if (commands.isEmpty() || !openScene(&error))
+        return fileTrouble(error);
     loadPlugins();
-    for (const Command &command : qAsConst(m_commands))
+    for (const CommandLine &command : commands)
         replay(command);
     if (m_meshesWithFaults > 0)
         printLine(stderr, acceptedFaultsInWords(m_meshesWithFaults));
-    if (m_meshes == 0)
+    if (m_meshes == 0) {
+        printLine(stderr,
+                  QStringLiteral("No mesh was made; %1 was not written.").arg(m_options.output));
         return m_discarded ? ExitFaults : ExitNothingMade;
-    if (!orvane::writeScene(m_options.output, &error)) {
-        printLine(stderr, error);
-        return ExitFileTrouble;
     }
+    if (!orvane::writeScene(m_options.output, &error))
+        return fileTrouble(error);
     printLine(stdout, QStringLiteral("wrote %1").arg(m_options.output));
     return ExitDone;
 }
@@ -49,28 +51,6 @@ bool ReplayJob::outputCanBeWritten(QString *error) const
         return false;
     // But not when parts of it were left out.
     return !m_options.salvage || areOutputsApart({m_options.scene}, {m_options.output}, error);
-}
-
-bool ReplayJob::readCommands(QString *error)
-{
-    QByteArray bytes;
-    if (!orvane::readWhole(m_options.commands, &bytes, error))
-        return false;
-    QTextStream stream(bytes);
-    stream.setCodec("UTF-8");
-    QString text;
-    for (int line = 1; stream.readLineInto(&text); ++line) {
-        // Blanks within and after a command have a meaning; only the whole line may have none.
-        const QString words = text.trimmed();
-        if (!words.isEmpty() && !words.startsWith(QLatin1Char('#')))
-            m_commands.append({line, text});
-    }
-    if (!m_commands.isEmpty())
-        return true;
-    *error = orvane::aboutFile(m_options.commands,
-                               QStringLiteral("there is no command in it; expected lines such as "
-                                              "\"manualretopo 5 0.3 0.05 35 0\"."));
-    return false;
 }
 
 bool ReplayJob::openScene(QString *error) const
@@ -92,6 +72,12 @@ bool ReplayJob::openScene(QString *error) const
 
 void ReplayJob::loadPlugins() const
 {
+    for (const QString &folder : m_options.pluginFolders) {
+        if (!QFileInfo(folder).isDir())
+            printLine(
+                stderr,
+                QStringLiteral("WARNING: --plugins %1: there is no such folder.").arg(folder));
+    }
     orvane::PluginLoader loader;
     for (const QString &folder : orvane::PluginLoader::StandardFolders(m_options.pluginFolders))
         loader.AddFolder(folder);
@@ -103,27 +89,43 @@ void ReplayJob::loadPlugins() const
     }
 }
 
-void ReplayJob::replay(const Command &command)
+void ReplayJob::replay(const CommandLine &command)
 {
     auto *kernel = orvane::Kernel();
-    const QVector<orvane::Geometry *> before = kernel->Scene()->Geometries();
+    const int nodes = kernel->Scene()->NodeCount();
     const int operations = kernel->OperationCount();
-    printLine(stdout, QStringLiteral("line %1: %2").arg(command.line).arg(command.text));
+    printLine(stdout, QStringLiteral("line %1: %2").arg(command.number).arg(command.text));
     kernel->CommandAttribute().SetValue(command.text);
-    if (kernel->OperationCount() == operations) {
-        printLine(stderr, QStringLiteral("%1: line %2: no tool knows this command; it was ignored.")
-                              .arg(m_options.commands)
-                              .arg(command.line));
-        return;
-    }
-    report(kernel->Scene()->Geometries().mid(before.size()));
+    const QString doubt = doubtAbout(command.text);
+    const bool isKnown = kernel->OperationCount() != operations;
+    if (!isKnown)
+        warn(command, QStringLiteral("no tool knows this command; it was ignored"), doubt);
+    else if (!doubt.isEmpty())
+        warn(command, doubt);
+    if (isKnown)
+        report(nodes);
 }
 
-void ReplayJob::report(const QVector<orvane::Geometry *> &made)
+void ReplayJob::warn(const CommandLine &command, const QString &what, const QString &hint) const
+{
+    const QString text =
+        hint.isEmpty() ? what : what + QStringLiteral(" (") + hint + QLatin1Char(')');
+    printLine(
+        stderr,
+        QStringLiteral("%1: line %2: %3.").arg(m_options.commands).arg(command.number).arg(text));
+}
+
+void ReplayJob::report(int firstNode)
 {
     const RunReport &run = lastRunReport();
+    const orvane::Scene &scene = *orvane::Kernel()->Scene();
     const orvane::MeshChecker checker;
-    for (const orvane::Geometry *geometry : made) {
+    const int meshesBefore = m_meshes;
+    for (int i = firstNode; i < scene.NodeCount(); ++i) {
+        const auto *geometry = dynamic_cast<const orvane::Geometry *>(scene.NodeAt(i));
+        if (!geometry)
+            continue;
+        ++m_meshes;
         const orvane::SubdivisionLevel *mesh = geometry->CurrentLevel();
         printLine(stdout, QStringLiteral("  %1: %2")
                               .arg(geometry->Name(), counted(mesh->Polygons().Count(), "face")));
@@ -132,9 +134,8 @@ void ReplayJob::report(const QVector<orvane::Geometry *> &made)
             printLine(stdout, QStringLiteral("    FAULT: ") + faultInWords(fault));
         m_meshesWithFaults += !faults.isEmpty();
     }
-    if (made.isEmpty())
+    if (m_meshes == meshesBefore)
         printLine(stdout, QStringLiteral("  nothing was made: ") + run.failure);
-    m_meshes += made.size();
     m_discarded |=
         std::any_of(run.pieces.cbegin(), run.pieces.cend(), [](const PieceReport &piece) {
             return piece.outcome == PieceReport::Discarded;

@@ -19,12 +19,6 @@
 
 namespace {
 
-int fileTrouble(const QString &error)
-{
-    printLine(stderr, error);
-    return ExitFileTrouble;
-}
-
 // The mesh is the scene's; null when it cannot be read.
 orvane::Mesh *readIntoScene(const QString &path, QString *error, int *leftOut = nullptr)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/exitcode.h"
+
 #include <QString>
 
 #include <cstdio>
@@ -16,4 +18,11 @@ inline void print(std::FILE *stream, const QString &text)
 inline void printLine(std::FILE *stream, const QString &text)
 {
     print(stream, text + QLatin1Char('\n'));
+}
+
+//! Says the sentence about a file on the error stream and answers the exit code for it.
+inline int fileTrouble(const QString &error)
+{
+    printLine(stderr, error);
+    return ExitFileTrouble;
 }

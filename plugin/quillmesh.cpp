@@ -109,7 +109,9 @@ void Quillmesh::showDialog()
 
 void Quillmesh::createMesh()
 {
-    if (!m_dialog)
+    // A host that lets clicks through while an operation runs would refuse another one: then
+    // nothing may be recorded either.
+    if (!m_dialog || orvane::Kernel()->IsOperationRunning())
         return;
     orvane::SelectAllOperation deselection(false);
     orvane::Kernel()->DoOperation(&deselection, false, false);
@@ -144,7 +146,7 @@ void Quillmesh::OnNodeEvent(const orvane::Attribute &attribute, orvane::NodeEven
     if (type != orvane::NodeEventValueChanged || &attribute != &m_nextCommand)
         return;
     const std::optional<CommandValues> values = readCommand(m_nextCommand.Value());
-    if (!values)
+    if (!values || orvane::Kernel()->IsOperationRunning())
         return;
     ManualRetopoOperation operation = operationOn(collectCurves(), *values);
     orvane::Kernel()->DoOperation(&operation, false, false);

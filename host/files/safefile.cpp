@@ -42,6 +42,8 @@ bool isPlaceForFile(const QString &path, QString *error)
     // Renaming over a device would put a file in its place, for everyone on the machine.
     if (info.exists() && !info.isFile())
         return refuse(path, QStringLiteral("this is a device or a pipe; expected a file."), error);
+    if (info.isSymLink() && !info.exists())
+        return refuse(path, QStringLiteral("this is a link to nowhere; expected a file."), error);
     const QFileInfo folder(info.absolutePath());
     const QString name = QDir::toNativeSeparators(info.path());
     if (!folder.exists()) {
@@ -52,6 +54,10 @@ bool isPlaceForFile(const QString &path, QString *error)
     if (!folder.isDir()) {
         return refuse(path,
                       QStringLiteral("%1 is a file; expected a folder to write into.").arg(name),
+                      error);
+    }
+    if (!folder.isWritable()) {
+        return refuse(path, QStringLiteral("the folder %1 may not be written into.").arg(name),
                       error);
     }
     return true;

@@ -75,12 +75,80 @@ TEST_F(Replay, aCommandThatNoToolKnowsIsNamedAndTheOthersGoOn)
                                             "was ignored.\n"));
 }
 
+TEST_F(Replay, linesEndInAnyOfTheUsualWays)
+{
+    const BatchResult result = replay("# one\rmanualretopo 5 0.3 0.05 35 0\r");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.output.startsWith(QStringLiteral("line 2: ")));
+}
+
+TEST_F(Replay, aFieldThatIsNoNumberIsWarnedOf)
+{
+    const BatchResult result = replay("manualretopo 5 0,3 0.05 35 0\n");
+    EXPECT_TRUE(result.errors.startsWith(
+        QStringLiteral("commands.txt: line 1: \"0,3\" is no number and reads as 0.\n")))
+        << qPrintable(result.errors);
+    EXPECT_TRUE(replay("manualretopo 5.5 0.3 0.05 35 0\n")
+                    .errors.contains(QStringLiteral("\"5.5\" is no whole number and reads as 0.")));
+    EXPECT_TRUE(replay("manualretopo 5 0.3 0.05 35 0 7\n")
+                    .errors.contains(QStringLiteral("what follows the fifth field is ignored.")));
+    EXPECT_TRUE(replay("manualretopo  0.3 0.05 35 0\n").errors.isEmpty()) << "an empty field";
+}
+
+TEST_F(Replay, aBlankInTheWrongPlaceIsPointedOut)
+{
+    for (const char *line : {" manualretopo 5\n", "manualretopo\t5 0.3\n"})
+        EXPECT_EQ(
+            replay(line).errors.section(QLatin1Char('\n'), 0, 0),
+            QStringLiteral("commands.txt: line 1: no tool knows this command; it was ignored "
+                           "(no blank may stand before the keyword, and one must follow it)."));
+}
+
+TEST_F(Replay, aFileThatIsNoTextIsRefused)
+{
+    const QString refusal =
+        QStringLiteral("commands.txt: this is no text; expected commands, one a "
+                       "line, in UTF-8.\n");
+    EXPECT_EQ(replay(read(Scene)).errors, refusal);
+    EXPECT_EQ(replay("manualretopo 5 \x1b]0;title\x07\n").errors, refusal);
+    EXPECT_EQ(replay("manualretopo \xff\n").errors, refusal);
+    EXPECT_EQ(replay(QByteArray("manualretopo 5\0 0.3\n", 20)).errors, refusal);
+}
+
+TEST_F(Replay, aLineTooLongIsRefusedAtOnce)
+{
+    const BatchResult result = replay("x\n" + QByteArray(70000, 'y') + "\n");
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.errors, QStringLiteral("commands.txt: line 2 is no command: it has 70000 "
+                                            "characters, expected at most 65536.\n"));
+}
+
+TEST_F(Replay, aFolderOfPluginsThatIsNotThereIsNamed)
+{
+    const BatchResult result = replay("manualretopo 5 0.3 0.05 35 0\n",
+                                      {QStringLiteral("--plugins"), QStringLiteral("nowhere")});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors,
+              QStringLiteral("WARNING: --plugins nowhere: there is no such folder.\n"));
+}
+
+TEST_F(Replay, needsNoDisplayWhateverTheEnvironmentSays)
+{
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const BatchResult result = replay("manualretopo 5 0.3 0.05 35 0\n");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    EXPECT_EQ(result.exitCode, 0) << qPrintable(result.errors);
+    EXPECT_EQ(run({QStringLiteral("--version"), QStringLiteral("-platform")}).exitCode, 0);
+    EXPECT_EQ(replay("x\n", {QStringLiteral("-style"), QStringLiteral("nonsense")}).exitCode, 2);
+}
+
 TEST_F(Replay, aLineThatMakesNothingSaysWhyAndLeavesNoScene)
 {
     const BatchResult result = replay("manualretopo 3 0.3 0.05 35 0\n");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(result.output.contains(QStringLiteral("  nothing was made: ")))
         << qPrintable(result.output);
+    EXPECT_EQ(result.errors, QStringLiteral("No mesh was made; b.orvane was not written.\n"));
     EXPECT_FALSE(exists(Out));
 }
 

@@ -128,6 +128,35 @@ TEST_F(OperationStream, theLayoutIsFlagLimitMergeToleranceSelfOverrunCountsIdent
     for (const OrvaneCurve *curve : curves)
         append(expected, curve->ID());
     EXPECT_EQ(bytesOf(operation), expected);
+
+    ManualRetopoOperation read;
+    ASSERT_TRUE(readInto(read, expected));
+    const OperationState state = stateOf(read);
+    EXPECT_FALSE(state.firstExecution);
+    EXPECT_EQ(state.maxEdges, 6);
+    EXPECT_EQ(state.mergeDistance, 0.1f);
+    EXPECT_EQ(state.intersectionTolerance, 0.05f);
+    EXPECT_FALSE(state.useSelfIntersections);
+    EXPECT_EQ(state.overrunTolerance, 0.25f);
+    EXPECT_EQ(state.geometryIDs, QVector<int>{created[0].geometryID});
+    EXPECT_EQ(state.companionIDs, QVector<int>{created[0].placementID});
+    EXPECT_EQ(state.meshIDs, QVector<int>{created[0].meshID});
+    EXPECT_EQ(state.geometryReferences, QVector<int>{created[0].geometryID});
+    EXPECT_EQ(state.curveReferences.size(), curves.size());
+    EXPECT_EQ(bytesOf(read), expected);
+}
+
+TEST_F(OperationStream, whatWasCreatedBeforeIsForgottenWhenAnotherStateIsRead)
+{
+    Sheet sheet;
+    drawCell(sheet, {2, 2, 0}, 2.0f);
+    const auto done = operationOn(sheet.curves());
+    ManualRetopoOperation fresh(5, 0.5f, 0.25f, 0.0f, false);
+    const QByteArray bytes = bytesOf(fresh);
+    ASSERT_TRUE(done->ExecuteAndInvert());
+    ASSERT_TRUE(readInto(*done, bytes));
+    EXPECT_TRUE(done->AddGeometry().isEmpty());
+    EXPECT_TRUE(stateOf(*done).geometryIDs.isEmpty());
 }
 
 TEST_F(OperationStream, createdGeometryIsReplacedByWhatIsReadAndStrangersAndNullAreNullEntries)

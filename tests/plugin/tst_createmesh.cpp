@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "plugin/overlaylist.h"
 #include "plugin/quillmesh.h"
 #include "tests/plugin/toolscene.h"
 #include "ui/manualretopodialog.h"
@@ -16,6 +17,22 @@ using orvane::OrvaneCurve;
 namespace {
 
 const char *const NoCurves = "No valid 3d curve in scene";
+
+// A curve that notes when tools ask whether they can use it; they cannot.
+class AskedCurve : public OrvaneCurve
+{
+public:
+    explicit AskedCurve(QVector<const OrvaneCurve *> *asked) : m_asked(asked) {}
+
+    bool IsUsable() const override
+    {
+        m_asked->append(this);
+        return false;
+    }
+
+private:
+    QVector<const OrvaneCurve *> *m_asked;
+};
 
 // What happens when the dialog asks for a mesh.
 class CreateMesh : public ToolScene
@@ -236,6 +253,52 @@ TEST_F(CreateMesh, theNewMeshesAreBroughtUpToDateAtTheEnd)
     createMesh();
     ASSERT_NE(mesh, nullptr);
     EXPECT_EQ(mesh->Bounds().maximum, far);
+}
+
+TEST_F(CreateMesh, theNewMeshesGetTheirPolygonsAnewAtTheEnd)
+{
+    drawCross(sheet);
+    orvane::SubdivisionLevel *mesh = nullptr;
+    int faces = 0;
+    interface.whenCreated = [&]() {
+        mesh = orvane::Kernel()->Scene()->Geometries().last()->CurrentLevel();
+        faces = mesh->FaceCount();
+        mesh->SetFaceCount(faces + 1);
+    };
+    createMesh();
+    ASSERT_NE(mesh, nullptr);
+    EXPECT_EQ(mesh->Polygons().Count(), faces + 1);
+}
+
+TEST_F(CreateMesh, curvesAreAskedForTheirUseFromTheLastToTheFirst)
+{
+    QVector<const OrvaneCurve *> asked;
+    QVector<const OrvaneCurve *> added;
+    for (int i = 0; i < 3; ++i) {
+        auto *curve = new AskedCurve(&asked);
+        orvane::Kernel()->Scene()->AddCurve(curve);
+        added.prepend(curve);
+    }
+    createMesh();
+    EXPECT_EQ(asked, added);
+}
+
+TEST_F(CreateMesh, aRequestInTheMiddleOfAnotherIsNeitherRunNorRecorded)
+{
+    drawCross(sheet);
+    bool isFirst = true;
+    interface.whenGenerating = [&]() {
+        if (isFirst) {
+            isFirst = false;
+            tool->createMesh();
+            replay(QStringLiteral("manualretopo 5 0.3 0.05 35 0"));
+        }
+    };
+    const int commands = orvane::Kernel()->RecordedCommands().size();
+    createMesh();
+    EXPECT_EQ(undoSteps(), 1);
+    EXPECT_EQ(orvane::Kernel()->RecordedCommands().size(), commands + 1);
+    EXPECT_FALSE(OverlayList::instance().nodes().isEmpty());
 }
 
 TEST_F(CreateMesh, nothingHappensOnceTheWindowHasTakenTheDialogWithIt)

@@ -126,6 +126,8 @@ TEST_F(SettingsDialog, twoPressesOfHelpOpenTwoHelpWindows)
     click("help");
     click("help");
     ASSERT_EQ(helpDialogs().size(), 2);
+    EXPECT_TRUE(
+        helpDialogs().contains(qobject_cast<RetopologyHelpDialog *>(QApplication::activeWindow())));
     for (const RetopologyHelpDialog *help : helpDialogs()) {
         EXPECT_TRUE(help->isVisible());
         EXPECT_FALSE(help->isModal());
