@@ -10,6 +10,8 @@
 #include <orvane/operations/addoperations.h>
 #include <orvane/operations/deleteoperations.h>
 #include <orvane/operations/editcurveoperation.h>
+#include <orvane/operations/projectoperation.h>
+#include <orvane/operations/relaxoperation.h>
 #include <orvane/operations/renameoperation.h>
 #include <orvane/operations/selectoperation.h>
 #include <orvane/operations/showoperation.h>
@@ -17,10 +19,10 @@
 
 using namespace orvane;
 
-const char *const OperationClasses[9] = {
-    "AddGeometryOperation", "AddCurveOperation", "DeleteGeometryOperation",
-    "DeleteCurveOperation", "RenameOperation",   "TransformOperation",
-    "SelectOperation",      "ShowOperation",     "EditCurveOperation"};
+const char *const OperationClasses[11] = {
+    "AddGeometryOperation", "AddCurveOperation",  "DeleteGeometryOperation", "DeleteCurveOperation",
+    "RenameOperation",      "TransformOperation", "SelectOperation",         "ShowOperation",
+    "EditCurveOperation",   "RelaxOperation",     "ProjectOperation"};
 
 Geometry *OperationSamples::newGeometry()
 {
@@ -61,5 +63,9 @@ std::unique_ptr<Operation> OperationSamples::makeOperation()
         return std::make_unique<ShowOperation>(QVector<Node *>{quad(), loose(), loop()}, false);
     if (desc == EditCurveOperation::StaticClass())
         return std::make_unique<EditCurveOperation>(loop(), net()->Points(), false);
+    if (desc == RelaxOperation::StaticClass())
+        return std::make_unique<RelaxOperation>(quad(), triangle(), 3, 0.5f);
+    if (desc == ProjectOperation::StaticClass())
+        return std::make_unique<ProjectOperation>(quad(), triangle());
     return nullptr;
 }
