@@ -20,6 +20,9 @@ qttools5-dev-tools:translations
 TEST_PACKAGES="
 libgtest-dev:the_tests
 libgeos-dev:an_independent_polygonizer_to_test_against
+xvfb:a_display_for_the_tests_of_the_desktop
+xauth:a_display_for_the_tests_of_the_desktop
+libgl1-mesa-dri:drawing_without_a_graphics_card
 "
 CG_PACKAGES="
 libcg:shader_programs_of_the_overlay

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+
+namespace orvane {
+
+//! The progress of an operation, in the status bar. It is seen to move although the operation does
+//! not come back to the event loop: windows are painted meanwhile, and nothing the user does with
+//! mouse or keys is delivered before the operation is through.
+class ProgressDisplay : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ProgressDisplay(QWidget *parent);
+
+    bool IsRunning() const { return m_running; }
+    QString Text() const;
+    //! From 0 to 1.
+    double Part() const;
+
+    //! A phase takes the place of the one before.
+    void Start(const QString &text, qint64 maximum);
+    //! Beyond the ends, and while nothing runs, values are held within or ignored.
+    void Set(qint64 value);
+    void End();
+
+private:
+    void showNow(bool always);
+
+    QLabel *m_label;
+    QProgressBar *m_bar;
+    QElapsedTimer m_sinceShown;
+    qint64 m_maximum = 0;
+    bool m_running = false;
+    bool m_showing = false;
+};
+
+} // namespace orvane
