@@ -75,3 +75,24 @@ function(orvane_add_test name)
         TIMEOUT ${TEST_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUILLMESH_MODELS=${PROJECT_SOURCE_DIR}/../shared/models;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
 endfunction()
+
+# orvane_add_display_test(NAME SOURCES files... LINKS targets... [TIMEOUT seconds])
+# A GoogleTest program that needs OpenGL, and so a display: a virtual one, where a software renderer
+# draws the same picture everywhere. Leaks are not looked for there: drivers keep what they have and
+# are gone from memory when their leaks are named.
+function(orvane_add_display_test name)
+    cmake_parse_arguments(TEST "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+    find_program(XVFB_RUN xvfb-run REQUIRED)
+    add_executable(${name} ${TEST_SOURCES})
+    target_link_libraries(${name} PRIVATE test_support ${TEST_LINKS} OpenGL::GL Qt5::Test)
+    add_test(NAME ${name}
+        COMMAND ${XVFB_RUN} -a -s "-screen 0 1600x1000x24" $<TARGET_FILE:${name}>)
+    if(NOT TEST_TIMEOUT)
+        set(TEST_TIMEOUT 600)
+    endif()
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${TEST_TIMEOUT}
+        LABELS display
+        RUN_SERIAL TRUE
+        ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;ASAN_OPTIONS=detect_leaks=0")
+endfunction()
