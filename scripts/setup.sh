@@ -22,6 +22,7 @@ libgtest-dev:the_tests
 libgeos-dev:an_independent_polygonizer_to_test_against
 xvfb:a_display_for_the_tests_of_the_desktop
 xauth:a_display_for_the_tests_of_the_desktop
+libxcb1-dev:events_as_a_user_sends_them,_in_a_test
 libgl1-mesa-dri:drawing_without_a_graphics_card
 "
 CG_PACKAGES="
