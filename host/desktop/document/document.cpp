@@ -144,7 +144,7 @@ void addReport(const FileReport &part, FileReport *whole)
 
 Document::Document(QObject *parent) : QObject(parent)
 {
-    m_saved.Set();
+    Kernel()->Undos().SetSaved(true);
     m_isChanged = Kernel()->Scene()->IsChanged();
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &Document::Refresh);
@@ -183,12 +183,14 @@ void Document::Refresh()
     if (Kernel()->IsOperationRunning())
         return;
     Scene *scene = Kernel()->Scene();
-    const bool moved = m_saved.Look();
-    if (moved && m_saved.IsHere())
+    const UndoQueue &queue = Kernel()->Undos();
+    const bool moved = queue.Revision() != m_queueRevision;
+    m_queueRevision = queue.Revision();
+    if (moved && queue.IsAtSaved())
         scene->SetChanged(false);
     // Something marked it that undo cannot take back.
     if (!moved && scene->IsChanged() && !m_isChanged)
-        m_saved.Forget();
+        Kernel()->Undos().SetSaved(false);
     const bool isOtherMark = scene->IsChanged() != m_isChanged;
     if (moved || isOtherMark)
         ++m_revision;
@@ -366,9 +368,9 @@ void Document::noteOpened(const QString &path, const QString &title, const QStri
 {
     ++m_revision;
     if (isSaved)
-        m_saved.Set();
+        Kernel()->Undos().SetSaved(true);
     else
-        m_saved.Forget();
+        Kernel()->Undos().SetSaved(false);
     Kernel()->Scene()->SetChanged(!isSaved);
     Refresh();
     setFile(path, title, folder);
@@ -384,7 +386,7 @@ void Document::setFile(const QString &path, const QString &title, const QString 
 
 void Document::noteSaved()
 {
-    m_saved.Set();
+    Kernel()->Undos().SetSaved(true);
     Kernel()->Scene()->SetChanged(false);
     Refresh();
 }

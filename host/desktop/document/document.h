@@ -2,7 +2,6 @@
 #pragma once
 
 #include "host/desktop/document/filereport.h"
-#include "host/desktop/document/savedposition.h"
 
 #include <QObject>
 #include <QString>
@@ -80,9 +79,9 @@ private:
     void noteSaved();
 
     QString m_path;
-    QString m_title;  // empty: none was given
-    QString m_folder; // where what was opened lies; empty for nowhere
-    SavedPosition m_saved;
+    QString m_title;         // empty: none was given
+    QString m_folder;        // where what was opened lies; empty for nowhere
+    int m_queueRevision = 0; // of the undo queue, at the last look
     int m_revision = 0;
     bool m_isChanged = false; // at the last look
 };

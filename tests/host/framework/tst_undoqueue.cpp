@@ -307,6 +307,70 @@ TEST_F(Undoing, restoresWithoutEmptyStepsAndAtAPositionInRange)
     EXPECT_EQ(positionAfter(1000), 2);
 }
 
+TEST_F(Undoing, knowsWhereTheSceneWasSaved)
+{
+    EXPECT_FALSE(m_queue.IsAtSaved());
+    m_queue.SetSaved(true);
+    add(1);
+    EXPECT_FALSE(m_queue.IsAtSaved());
+    m_queue.Undo();
+    EXPECT_TRUE(m_queue.IsAtSaved());
+    m_queue.Redo();
+    m_queue.SetSaved(true);
+    m_queue.Undo();
+    EXPECT_FALSE(m_queue.IsAtSaved());
+    add(20); // what was saved is cut off
+    EXPECT_FALSE(m_queue.IsAtSaved());
+    m_queue.SetSaved(true);
+    add(300, true); // and now grows
+    EXPECT_FALSE(m_queue.IsAtSaved());
+    m_queue.Undo();
+    EXPECT_FALSE(m_queue.IsAtSaved()) << "half a step is nowhere";
+    m_queue.SetSaved(true);
+    m_queue.SetSaved(false);
+    EXPECT_FALSE(m_queue.IsAtSaved());
+}
+
+TEST_F(Undoing, losesTheSavedPlaceThatFallsOff)
+{
+    UndoQueue small(1000);
+    m_queue.SetSaved(true);
+    for (int i = 0; i <= UndoQueue::MaximumSteps; ++i)
+        add(1);
+    while (m_queue.Undo()) {
+    }
+    EXPECT_EQ(m_queue.Position(), 0);
+    EXPECT_FALSE(m_queue.IsAtSaved());
+
+    small.SetSaved(true);
+    NumberOperation large(1, 5000);
+    ASSERT_TRUE(large.ExecuteAndInvert());
+    small.Push(&large, false);
+    small.Push(&large, false);
+    EXPECT_TRUE(small.Undo());
+    EXPECT_FALSE(small.IsAtSaved()) << "more bytes than allowed in one go";
+}
+
+TEST_F(Undoing, countsItsChanges)
+{
+    int revision = m_queue.Revision();
+    const auto hasChanged = [&] {
+        const bool changed = m_queue.Revision() != revision;
+        revision = m_queue.Revision();
+        return changed;
+    };
+    add(1);
+    EXPECT_TRUE(hasChanged());
+    m_queue.Undo();
+    EXPECT_TRUE(hasChanged());
+    EXPECT_FALSE(m_queue.Undo());
+    EXPECT_FALSE(hasChanged());
+    m_queue.Redo();
+    EXPECT_TRUE(hasChanged());
+    m_queue.Clear();
+    EXPECT_TRUE(hasChanged());
+}
+
 TEST_F(Undoing, namesItsStepsByTheirClass)
 {
     add(1);

@@ -49,8 +49,13 @@ QString UndoQueue::textOf(const UndoStep &step)
 
 void UndoQueue::Push(Operation *operation, bool merge)
 {
+    ++m_revision;
     m_steps.resize(m_position);
-    if (!merge || m_steps.isEmpty())
+    const bool isNewStep = !merge || m_steps.isEmpty();
+    // The saved scene lay in what is cut off, or within the step that grows now.
+    if (m_saved > m_position || (m_saved == m_position && !isNewStep))
+        m_saved = -1;
+    if (isNewStep)
         m_steps.append(UndoStep());
     m_steps.last().append({operation->RuntimeClass()->Name(), bytesOf(operation)});
     m_position = m_steps.size();
@@ -71,6 +76,7 @@ void UndoQueue::enforceLimits()
     const int dropped = m_steps.size() - kept;
     m_steps.remove(0, dropped);
     m_position -= dropped;
+    m_saved = qMax(-1, m_saved - dropped);
 }
 
 bool UndoQueue::run(OperationRecord &record)
@@ -111,6 +117,7 @@ bool UndoQueue::Undo()
         return false;
     }
     --m_position;
+    ++m_revision;
     return true;
 }
 
@@ -127,13 +134,21 @@ bool UndoQueue::Redo()
         return false;
     }
     ++m_position;
+    ++m_revision;
     return true;
+}
+
+void UndoQueue::SetSaved(bool saved)
+{
+    m_saved = saved ? m_position : -1;
 }
 
 void UndoQueue::Clear()
 {
     m_steps.clear();
     m_position = 0;
+    m_saved = -1;
+    ++m_revision;
 }
 
 void UndoQueue::Restore(const QVector<UndoStep> &steps, int position)

@@ -40,6 +40,11 @@ public:
     const QVector<UndoStep> &Steps() const { return m_steps; }
     //! How many of the steps are done; the others were undone.
     int Position() const { return m_position; }
+    //! Another number after each change of the queue.
+    int Revision() const { return m_revision; }
+    //! Do the steps stand where they stood when the scene was saved? False too when that place can
+    //! no longer be reached.
+    bool IsAtSaved() const { return m_saved == m_position; }
     //! What undo or redo would undo or redo, for a menu: the class's display text in the user's
     //! language, empty when there is nothing.
     QString UndoText() const;
@@ -52,6 +57,8 @@ public:
     //! operation answers false; the step then stays where it is.
     bool Undo();
     bool Redo();
+    //! The scene is saved as it stands, or no longer as any place here.
+    void SetSaved(bool saved);
     void Clear();
     //! Takes over what another session kept. Steps without operations are left out; a position
     //! out of range is moved into it.
@@ -65,6 +72,8 @@ private:
     qint64 m_maximumBytes;
     QVector<UndoStep> m_steps;
     int m_position = 0; // steps before it are done, from it on undone
+    int m_saved = -1;   // position of the saved scene; -1: none here
+    int m_revision = 0;
 };
 
 } // namespace orvane
