@@ -48,17 +48,12 @@ private:
         m_result.greatestDistance = std::max(m_result.greatestDistance, distance);
     }
 
-    // The surface may bend so that the place just short of the first point has that very point as
-    // its closest: then a place farther back along the closing stretch is taken.
     CurvePoint closingPoint(const OrvaneCurve &curve) const
     {
-        const Vector first = curve.Points().first().position;
-        const Vector last = curve.Points().last().position;
-        const Vector place = curve.ClosingPosition();
-        CurvePoint point = bound(place);
-        for (float gap = 0.002f; point.position == first && gap < 0.5f; gap *= 2.0f)
-            point = bound(first + (last - first) * gap);
-        return point.position == first ? CurvePoint(place) : point;
+        const CurvePoint point =
+            curve.ClosingPoint([this](const Vector &place) { return bound(place); });
+        const bool isOnFirst = point.position == curve.Points().first().position;
+        return isOnFirst ? CurvePoint(curve.ClosingPosition()) : point;
     }
 
     SurfaceLocator m_locator;

@@ -12,18 +12,6 @@ namespace {
 
 const float Unlimited = std::numeric_limits<float>::max(); // scene units
 
-// Over an edge of the surface the place just short of the first point may have that very point as
-// its closest: then one farther back along the closing stretch is taken.
-CurvePoint closingPoint(const OrvaneCurve &curve, const SurfaceLocator &surface)
-{
-    const Vector first = curve.Points().first().position;
-    const Vector last = curve.Points().last().position;
-    CurvePoint point = onSurface(surface, curve.ClosingPosition());
-    for (float gap = 0.002f; point.position == first && gap < 0.5f; gap *= 2.0f)
-        point = onSurface(surface, first + (last - first) * gap);
-    return point;
-}
-
 } // namespace
 
 QVector<CurvePoint> drawnPoints(const CurveShape &shape)
@@ -53,7 +41,8 @@ CurveShape closedThrough(const QVector<CurvePoint> &drawn, const SurfaceLocator 
         return {drawn, false};
     OrvaneCurve curve;
     curve.SetPoints(drawn);
-    const CurvePoint closing = closingPoint(curve, surface);
+    const CurvePoint closing =
+        curve.ClosingPoint([&surface](const Vector &place) { return onSurface(surface, place); });
     if (closing.position == drawn.first().position)
         return {drawn, false};
     curve.AppendPoint(closing);

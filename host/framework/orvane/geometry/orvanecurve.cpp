@@ -14,6 +14,7 @@ namespace orvane {
 namespace {
 
 const float ClosingGap = 0.001f; // fraction of the closing stretch
+const float GreatestGap = 0.5f;  // fraction of the closing stretch
 
 } // namespace
 
@@ -32,6 +33,17 @@ Vector OrvaneCurve::ClosingPosition() const
     // A stretch so short, so far from the origin, that rounding joins the two.
     return {std::nextafter(first.x, last.x), std::nextafter(first.y, last.y),
             std::nextafter(first.z, last.z)};
+}
+
+CurvePoint
+OrvaneCurve::ClosingPoint(const std::function<CurvePoint(const Vector &)> &ontoSurface) const
+{
+    const Vector first = m_points.first().position;
+    const Vector last = m_points.last().position;
+    CurvePoint point = ontoSurface(ClosingPosition());
+    for (float gap = 2.0f * ClosingGap; point.position == first && gap < GreatestGap; gap *= 2.0f)
+        point = ontoSurface(first + (last - first) * gap);
+    return point;
 }
 
 orvane::Geometry *OrvaneCurve::Geometry() const

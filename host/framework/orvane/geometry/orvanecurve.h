@@ -6,6 +6,8 @@
 
 #include <QVector>
 
+#include <functional>
+
 namespace orvane {
 
 //! A curve of straight stretches between points.
@@ -24,6 +26,11 @@ public:
     //! Where the closing point of the points so far (at least one) belongs, in world space. On the
     //! first point only when the last point is.
     Vector ClosingPosition() const;
+    //! The closing point of the points so far, put onto a surface. Where the surface bends, the
+    //! place just short of the first point may have that very point as its closest: then one
+    //! farther back along the closing stretch is taken. On the first point only when all of them
+    //! are.
+    CurvePoint ClosingPoint(const std::function<CurvePoint(const Vector &)> &ontoSurface) const;
 
     void SetPoints(const QVector<CurvePoint> &points) { m_points = points; }
     void AppendPoint(const CurvePoint &point) { m_points.append(point); }
