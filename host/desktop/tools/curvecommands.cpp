@@ -217,12 +217,6 @@ bool hideUnselectedCurves()
                 [](const OrvaneCurve &curve) { return !curve.Selected() && !curve.IsHidden(); });
 }
 
-bool showSelectedCurves()
-{
-    return show(true,
-                [](const OrvaneCurve &curve) { return curve.Selected() && curve.IsHidden(); });
-}
-
 bool showAllCurves()
 {
     return show(true, [](const OrvaneCurve &curve) { return curve.IsHidden(); });

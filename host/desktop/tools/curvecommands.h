@@ -29,8 +29,6 @@ bool invertCurveSelection();
 
 bool hideSelectedCurves();
 bool hideUnselectedCurves();
-//! Hidden curves can be selected in a list.
-bool showSelectedCurves();
 bool showAllCurves();
 
 } // namespace orvane

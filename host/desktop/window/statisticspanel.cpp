@@ -44,14 +44,6 @@ QString nameOfFaces(int corners)
     return StatisticsPanel::tr("Faces of %1 corners").arg(corners);
 }
 
-QString inWords(const QVector<MeshFault> &faults)
-{
-    QStringList names;
-    for (const MeshFault &fault : faults)
-        names.append(QStringLiteral("%1 \u00d7 %2").arg(fault.Count()).arg(fault.Name()));
-    return names.isEmpty() ? StatisticsPanel::tr("No faults") : names.join(QLatin1Char('\n'));
-}
-
 } // namespace
 
 StatisticsPanel::StatisticsPanel(QWidget *parent) : QWidget(parent), m_text(new QLabel(this))
@@ -102,12 +94,13 @@ void StatisticsPanel::show(const QString &name, const Mesh &mesh)
             rows += row(nameOfFaces(corners), figures.polygonsByCorners[corners]);
     }
     rows += row(tr("Open edges"), figures.openEdges);
+    const QString faults =
+        figures.faults.isEmpty() ? tr("No faults") : figures.FaultTexts().join(QLatin1Char('\n'));
     const QString shownName = fontMetrics().elidedText(name, Qt::ElideRight, WidestName);
-    m_text->setText(QStringLiteral("<b>%1</b><table>%2</table>%3")
-                        .arg(shownName.toHtmlEscaped(), rows,
-                             inWords(figures.faults)
-                                 .toHtmlEscaped()
-                                 .replace(QLatin1Char('\n'), QLatin1String("<br>"))));
+    m_text->setText(
+        QStringLiteral("<b>%1</b><table>%2</table>%3")
+            .arg(shownName.toHtmlEscaped(), rows,
+                 faults.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
 }
 
 } // namespace orvane
