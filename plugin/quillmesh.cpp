@@ -97,7 +97,10 @@ Quillmesh::Quillmesh()
     m_nextCommand.Connect(&orvane::Kernel()->CommandAttribute(), false);
 }
 
-Quillmesh::~Quillmesh() = default;
+Quillmesh::~Quillmesh()
+{
+    destroyPrograms(m_overlay);
+}
 
 void Quillmesh::showDialog()
 {
@@ -157,8 +160,10 @@ void Quillmesh::OnEvent(const orvane::EventGate &gate)
 {
     if (&gate != &m_endRender || !m_renderIntersections)
         return;
-    for (IntersectionNode *start : OverlayList::instance().nodes())
-        drawOverlay(start);
+    for (IntersectionNode *start : OverlayList::instance().nodes()) {
+        createPrograms(m_overlay, this);
+        drawOverlay(m_overlay, start);
+    }
 }
 
 const orvane::ClassDesc *Quillmesh::RuntimeClass() const

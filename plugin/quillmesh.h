@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plugin/overlayprograms.h"
+
 #include <orvane/base/attribute.h>
 #include <orvane/base/eventgate.h>
 #include <orvane/base/node.h>
@@ -19,7 +21,7 @@ class Quillmesh : public QObject, public orvane::Node
 
 public:
     Quillmesh();
-    //! The dialog is the main window's and stays.
+    //! The dialog is the main window's and stays. The overlay's programs go.
     ~Quillmesh() override;
 
     //! Brings the dialog up; there is none any more once the main window is gone.
@@ -41,6 +43,7 @@ private:
     void setRenderIntersections(bool on);
 
     orvane::EventGate m_endRender;
+    OverlayPrograms m_overlay;
     QPointer<ManualRetopoDialog> m_dialog; // the main window's
     bool m_renderIntersections = false;
     orvane::AttributeInstance<QString> m_nextCommand; // "nextcomand" (sic)

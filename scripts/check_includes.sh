@@ -31,7 +31,7 @@ forbid host/framework/orvane/operations "($widgets|$gl|QtGui|Q(Image|Pixmap|Pain
 forbid host "$rooms" 'the host knows nothing of the plug-in and the command line'
 forbid host/files "$widgets" 'files are read without widgets'
 forbid host/meshchecker "($widgets|host/(files|cgmaterial|desktop)/)" 'the checker stands on the framework'
-forbid host/cgmaterial "($widgets|host/(files|meshchecker|desktop)/)" 'programs stand on the framework and Cg'
+forbid host/cgmaterial "($widgets|GL/|Cg/cgGL|QOpenGL|QGL|qopengl|host/(files|meshchecker|desktop)/)" 'programs stand on the framework and Cg; who draws loads them'
 desktop='host/desktop/'
 forbid host/desktop/drawing "($widgets|$gl|host/(files|meshchecker)/|${desktop}(view|document|viewport|tools|window)/)" 'drawing stands on the framework'
 forbid host/desktop/view "($widgets|$gl|host/files/|${desktop}(drawing|document|viewport|tools|window)/)" 'view stands on the framework and the checker'

@@ -7,12 +7,19 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Quillmesh)
 
-set_target_properties(OrvaneFramework MeshChecker OrvaneFiles Quillmesh PROPERTIES
+set(host_libraries OrvaneFramework MeshChecker OrvaneFiles)
+if(TARGET CgMaterial)
+    list(APPEND host_libraries CgMaterial)
+    install(FILES host/cgmaterial/cgprogram.h host/cgmaterial/export.h
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/host/cgmaterial)
+endif()
+
+set_target_properties(${host_libraries} Quillmesh PROPERTIES
     INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 set_target_properties(quillmesh PROPERTIES
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN/../plugins")
 
-install(TARGETS OrvaneFramework MeshChecker OrvaneFiles
+install(TARGETS ${host_libraries}
         EXPORT QuillmeshTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(TARGETS Quillmesh EXPORT QuillmeshTargets LIBRARY DESTINATION plugins)

@@ -96,3 +96,10 @@ function(orvane_add_display_test name)
         RUN_SERIAL TRUE
         ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;ASAN_OPTIONS=detect_leaks=0")
 endfunction()
+
+# orvane_skip_test(NAME WHY)
+# A test that this build cannot have: it is listed as skipped, with the reason.
+function(orvane_skip_test name why)
+    add_test(NAME ${name} COMMAND ${CMAKE_COMMAND} -E echo "Skipped: ${why}.")
+    set_tests_properties(${name} PROPERTIES SKIP_REGULAR_EXPRESSION "Skipped:")
+endfunction()

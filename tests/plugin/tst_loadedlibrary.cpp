@@ -332,6 +332,9 @@ TEST_F(LoadedLibrary, theOverlayIsDrawnAfterEachRenderUntilTheDialogCloses)
         EXPECT_EQ(RecordingGl::instance().dots().size(), 4);
         EXPECT_EQ(RecordingGl::instance().strokes().size(), 8);
         EXPECT_EQ(RecordingGl::instance().mistakes, 0);
+        const QStringList bindings =
+            RecordingGl::instance().calls.filter(QStringLiteral("cgGLBindProgram"));
+        EXPECT_EQ(bindings.size(), QUILLMESH_HAS_CG);
     }
     click("close");
     render();

@@ -30,6 +30,9 @@ try operation '"mesh/buildmesh.h"' pass
 try ui '"graph/intersectionnode.h"' fail
 try plugin '<qopengl.h>' fail
 try plugin '<qopengl.h>' pass overlay
+try plugin '<Cg/cgGL.h>' fail
+try plugin '<Cg/cgGL.h>' pass overlay
+try plugin '"host/cgmaterial/cgprogram.h"' pass
 try cli '"plugin/quillmesh.h"' fail
 try cli '"host/files/meshfile.h"' pass
 try host/files '<QLabel>' fail
@@ -40,4 +43,7 @@ try host/framework/orvane/kernel '<orvane/operations/renameoperation.h>' fail
 try host/framework/orvane/operations '<orvane/kernel/scene.h>' pass
 try host/framework/orvane/operations '<QDialog>' fail
 try host/meshchecker '"graph/pieces.h"' fail
+try host/cgmaterial '<Cg/cg.h>' pass
+try host/cgmaterial '<Cg/cgGL.h>' fail
+try host/cgmaterial '<QOpenGLContext>' fail
 echo "Every forbidden include was found."

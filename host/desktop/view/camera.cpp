@@ -293,12 +293,6 @@ void Camera::Zoom(double factor)
     move(state);
 }
 
-void Camera::ZoomTowards(const Vector &point, double factor)
-{
-    if (SetPivot(point))
-        Zoom(factor);
-}
-
 // False, and nothing moved, where the state is none to be in.
 bool Camera::move(const State &state)
 {

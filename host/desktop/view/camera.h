@@ -3,8 +3,8 @@
 
 #include "host/desktop/view/doublevector.h"
 
+#include <orvane/kernel/scenecamera.h>
 #include <orvane/math/axisalignedboundingbox.h>
-#include <orvane/math/matrix.h>
 
 #include <QPointF>
 #include <QSizeF>
@@ -37,7 +37,7 @@ struct ScreenPoint
 //! Matrices work on row vectors, as Matrix does. Their sixteen floats, row after row
 //! (Matrix::Data), are the very order that OpenGL's glLoadMatrixf and uniforms without transposing
 //! expect, for there columns are stored and vectors stand on the other side.
-class Camera
+class Camera : public SceneCamera
 {
 public:
     Camera();
@@ -60,6 +60,7 @@ public:
     //! How many scene units a pixel is high at a depth.
     double PixelSize(double depth) const;
 
+    Matrix WorldToClip() const override { return ViewMatrix() * ProjectionMatrix(); }
     //! World to eye: x right, y up, z against the view.
     Matrix ViewMatrix() const;
     //! Eye to clip space, OpenGL's. A lift brings all that is drawn nearer in depth by the size of
@@ -94,10 +95,8 @@ public:
     //! Moves the scene at the depth of the pivot by that many pixels.
     void Pan(const QPointF &pixels);
     //! Multiplies the distance to the pivot by a factor above zero; never through the pivot, and
-    //! not nearer or farther than makes sense for the scene.
+    //! not nearer or farther than makes sense for the scene. The pivot stays at its pixel.
     void Zoom(double factor);
-    //! Makes the point the pivot and zooms: it stays at its pixel.
-    void ZoomTowards(const Vector &point, double factor);
 
 private:
     struct Axes

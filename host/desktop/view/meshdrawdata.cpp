@@ -77,13 +77,6 @@ void forEachPolygon(const Mesh &mesh, const PolygonList &polygons, Visit visit)
     }
 }
 
-TrianglesByCorners::Class classOf(int cornerCount)
-{
-    if (cornerCount > 4)
-        return TrianglesByCorners::MoreCorners;
-    return cornerCount == 4 ? TrianglesByCorners::Fours : TrianglesByCorners::Threes;
-}
-
 void appendEdgeFault(FaultDrawData &data, const Mesh &mesh, const MeshFault &fault)
 {
     for (const MeshEdge &edge : fault.edges) {
@@ -209,20 +202,6 @@ FlatDrawData flatDrawData(const Mesh &mesh)
         }
     });
     return data;
-}
-
-TrianglesByCorners trianglesByCorners(const Mesh &mesh)
-{
-    TrianglesByCorners result;
-    result.triangles.reserve(mesh.FaceCount() * (mesh.CornersPerFace() - 2) * 3);
-    for (int wanted = 0; wanted < TrianglesByCorners::ClassCount; ++wanted) {
-        forEachPolygon(mesh, mesh.Polygons(), [&](const int *corner, int count) {
-            if (classOf(count) == wanted)
-                appendFan(result.triangles, corner, count);
-        });
-        result.firstIndex[wanted + 1] = result.triangles.size();
-    }
-    return result;
 }
 
 FaultDrawData faultDrawData(const Mesh &mesh, const QVector<MeshFault> &faults)

@@ -66,18 +66,6 @@ struct FlatDrawData
 
 FlatDrawData flatDrawData(const Mesh &mesh);
 
-//! The triangles of a mesh sorted by the corners of their polygons, to be drawn as three runs of
-//! one array.
-struct TrianglesByCorners
-{
-    enum Class { Threes, Fours, MoreCorners, ClassCount };
-
-    QVector<int> triangles;              // three vertices each
-    int firstIndex[ClassCount + 1] = {}; // into triangles; the last is its end
-};
-
-TrianglesByCorners trianglesByCorners(const Mesh &mesh);
-
 //! Faults as plain geometry, in the frame of the mesh's geometry.
 struct FaultDrawData
 {

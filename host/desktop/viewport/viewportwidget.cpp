@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/desktop/viewport/viewportwidget.h"
 
+#include "host/desktop/view/shownsurfaces.h"
 #include "host/desktop/view/viewclient.h"
 #include "host/desktop/viewport/cardarray.h"
 #include "host/desktop/viewport/frame.h"
@@ -22,8 +23,7 @@ namespace orvane {
 
 namespace {
 
-const double HoverReach = 8.0; // pixels
-const int HudMargin = 10;      // pixels
+const int HudMargin = 10; // pixels
 
 QCursor cursorOf(CameraMove move)
 {
@@ -44,19 +44,8 @@ bool isModifier(int key)
            || key == Qt::Key_Meta;
 }
 
-QVector<const OrvaneCurve *> shownCurves()
-{
-    QVector<const OrvaneCurve *> curves;
-    const Scene &scene = *Kernel()->Scene();
-    for (int i = 0; i < scene.NodeCount(); ++i) {
-        const auto *curve = dynamic_cast<const OrvaneCurve *>(scene.NodeAt(i));
-        if (curve && curve->IsUsable())
-            curves.append(curve);
-    }
-    return curves;
-}
-
-// What plug-ins draw with: the fixed pipeline as it is by default, but for the matrices.
+// What plug-ins draw with: the fixed pipeline as it is by default, but for the matrices, and
+// without multisampling, which some drivers smooth no points with.
 void loadFixedPipeline(const Frame &frame)
 {
     QOpenGLFunctions_2_1 &gl = frame.gl;
@@ -66,6 +55,7 @@ void loadFixedPipeline(const Frame &frame)
     gl.glMatrixMode(GL_MODELVIEW);
     gl.glLoadMatrixf(frame.camera.ViewMatrix().Data());
     gl.glDisable(GL_DEPTH_TEST);
+    gl.glDisable(GL_MULTISAMPLE);
     gl.glLineWidth(1.0f);
     gl.glPointSize(1.0f);
     gl.glColor4f(1.0f, 1.0f, 1.0f, 1.0f);
@@ -96,6 +86,7 @@ ViewportWidget::ViewportWidget(QWidget *parent)
     setMouseTracking(true);
     setTabletTracking(true);
     Kernel()->SetViewPort(&m_viewPort);
+    Kernel()->Scene()->SetActiveCamera(&m_camera);
     connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
         if (m_frameTime.isValid())
             emit frameRendered(double(m_frameTime.nsecsElapsed()) * 1e-6);
@@ -110,6 +101,8 @@ ViewportWidget::~ViewportWidget()
     dropGraphics();
     if (Kernel()->ViewPort() == &m_viewPort)
         Kernel()->SetViewPort(nullptr);
+    if (Kernel()->Scene()->ActiveCamera() == &m_camera)
+        Kernel()->Scene()->SetActiveCamera(nullptr);
 }
 
 QSurfaceFormat ViewportWidget::Format()
@@ -125,11 +118,6 @@ QSurfaceFormat ViewportWidget::Format()
 int ViewportWidget::UploadCount()
 {
     return CardArray::UploadCount();
-}
-
-const OrvaneCurve *ViewportWidget::HoveredCurve() const
-{
-    return Kernel()->Scene()->Contains(m_hovered) ? m_hovered : nullptr;
 }
 
 void ViewportWidget::SetClient(ViewClient *client)
@@ -185,54 +173,6 @@ void ViewportWidget::ToggleOrthographic()
     update();
 }
 
-void ViewportWidget::SetShading(Shading shading)
-{
-    m_options.shading = shading;
-    update();
-}
-
-void ViewportWidget::SetWireframe(bool on)
-{
-    m_options.wireframe = on;
-    update();
-}
-
-void ViewportWidget::SetXRay(bool on)
-{
-    m_options.xRay = on;
-    update();
-}
-
-void ViewportWidget::SetDimSource(bool on)
-{
-    m_options.dimSource = on;
-    update();
-}
-
-void ViewportWidget::SetShowGrid(bool on)
-{
-    m_options.showGrid = on;
-    update();
-}
-
-void ViewportWidget::SetShowGizmo(bool on)
-{
-    m_options.showGizmo = on;
-    update();
-}
-
-void ViewportWidget::SetShowHud(bool on)
-{
-    m_options.showHud = on;
-    m_hud->setVisible(on && !m_hud->text().isEmpty());
-}
-
-void ViewportWidget::SetCurvePoints(bool on)
-{
-    m_options.curvePoints = on;
-    update();
-}
-
 void ViewportWidget::initializeGL()
 {
     // Docks and reparenting take the context away and bring another.
@@ -260,11 +200,11 @@ void ViewportWidget::paintGL()
     }
     const AxisAlignedBoundingBox scene = shownBounds();
     m_camera.SetSceneBounds(scene);
-    const OrvaneCurve *highlighted = m_highlight ? m_highlight() : HoveredCurve();
+    const OrvaneCurve *highlighted = m_highlight ? m_highlight() : nullptr;
     const Frame frame{*gl, m_camera, m_options, float(devicePixelRatioF())};
     m_renderer->Draw(frame, scene, highlighted, m_client);
-    loadFixedPipeline(frame);
     gl->glPushAttrib(GL_ALL_ATTRIB_BITS);
+    loadFixedPipeline(frame);
     m_viewPort.EndRenderEvent().Raise();
     gl->glPopAttrib();
     gl->glUseProgram(0);
@@ -338,7 +278,7 @@ void ViewportWidget::leaveEvent(QEvent *event)
 
 std::optional<Vector> ViewportWidget::surfacePlaceAt(const QPointF &pixel)
 {
-    const SurfaceHit hit = surfaceAt(m_camera, m_surfaces.Visible(), pixel);
+    const SurfaceHit hit = surfaceAt(m_camera, shownSurfaces(), pixel);
     if (!hit.IsHit())
         return std::nullopt;
     return hit.point.WorldPosition();
@@ -361,8 +301,6 @@ void ViewportWidget::handle(const PointerEvent &event)
         m_client->Handle(event);
         update();
     }
-    if (event.buttons == Qt::NoButton)
-        hoverAt(event.pixel);
     showCursor();
 }
 
@@ -385,22 +323,7 @@ void ViewportWidget::giveUpDrag()
     m_navigation.Cancel();
     if (m_client)
         m_client->Leave();
-    setHovered(nullptr);
     showCursor();
-    update();
-}
-
-void ViewportWidget::hoverAt(const QPointF &pixel)
-{
-    setHovered(curveAt(m_camera, shownCurves(), pixel, HoverReach, m_surfaces.Visible()).curve);
-}
-
-void ViewportWidget::setHovered(const OrvaneCurve *curve)
-{
-    if (curve == m_hovered)
-        return;
-    m_hovered = curve;
-    emit hovering(curve);
     update();
 }
 

@@ -3,11 +3,8 @@
 
 #include "host/desktop/view/camera.h"
 #include "host/desktop/view/navigation.h"
-#include "host/desktop/view/surfacecache.h"
 #include "host/desktop/viewport/hostviewport.h"
 #include "host/desktop/viewport/viewoptions.h"
-
-#include <orvane/geometry/orvanecurve.h>
 
 #include <QElapsedTimer>
 #include <QOpenGLWidget>
@@ -19,6 +16,7 @@ class QLabel;
 
 namespace orvane {
 
+class OrvaneCurve;
 class SceneRenderer;
 class ViewClient;
 
@@ -41,17 +39,13 @@ public:
     //! Ask for a repaint with update() after changing the camera.
     orvane::Camera &Camera() { return m_camera; }
     orvane::Navigation &Navigation() { return m_navigation; }
-    SurfaceCache &Surfaces() { return m_surfaces; }
     const ViewOptions &Options() const { return m_options; }
-    ViewClient *Client() const { return m_client; }
-    //! The visible curve under the pointer; null when there is none.
-    const OrvaneCurve *HoveredCurve() const;
     //! How many arrays went to the graphics card since the program began.
     static int UploadCount();
 
     //! The tool in hand; not owned, may be null. The client before is told to leave.
     void SetClient(ViewClient *client);
-    //! Without one, the curve under the pointer is highlighted.
+    //! Without one, no curve is highlighted.
     void SetHighlight(Highlight highlight);
     void SetOptions(const ViewOptions &options);
     void SetHudText(const QString &text);
@@ -63,18 +57,8 @@ public slots:
     void FrameAll();
     void Look(orvane::StandardView view);
     void ToggleOrthographic();
-    void SetShading(orvane::Shading shading);
-    void SetWireframe(bool on);
-    void SetXRay(bool on);
-    void SetDimSource(bool on);
-    void SetShowGrid(bool on);
-    void SetShowGizmo(bool on);
-    void SetShowHud(bool on);
-    void SetCurvePoints(bool on);
 
 signals:
-    //! The curve under the pointer changed; null for none.
-    void hovering(const orvane::OrvaneCurve *curve);
     //! A frame is on the screen; from the begin of drawing to there.
     void frameRendered(double milliseconds);
 
@@ -100,19 +84,15 @@ private:
     void handle(const PointerEvent &event);
     void handleModifiers(QKeyEvent *event);
     void giveUpDrag();
-    void hoverAt(const QPointF &pixel);
-    void setHovered(const OrvaneCurve *curve);
     void showCursor();
 
     HostViewPort m_viewPort;
     orvane::Camera m_camera;
-    SurfaceCache m_surfaces;
     orvane::Navigation m_navigation;
     ViewOptions m_options;
     ViewClient *m_client = nullptr;
     Highlight m_highlight;
-    const OrvaneCurve *m_hovered = nullptr; // may have left the scene since
-    PointerEvent m_lastEvent;               // for what keys change between two moves of the pointer
+    PointerEvent m_lastEvent; // for what keys change between two moves of the pointer
     std::unique_ptr<SceneRenderer> m_renderer;
     QLabel *m_hud; // owned by the widget
     QElapsedTimer m_frameTime;

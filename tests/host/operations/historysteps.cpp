@@ -13,6 +13,7 @@
 #include <orvane/kernel/selectalloperation.h>
 #include <orvane/operations/addoperations.h>
 #include <orvane/operations/deleteoperations.h>
+#include <orvane/operations/drawonoperation.h>
 #include <orvane/operations/editcurveoperation.h>
 #include <orvane/operations/renameoperation.h>
 #include <orvane/operations/selectoperation.h>
@@ -46,8 +47,8 @@ QVector<T *> nodesOf()
 const char *HistorySteps::kindName(int kind)
 {
     static const char *const names[KindCount] = {
-        "add geometry", "add curve", "delete geometry", "delete curve", "rename",       "transform",
-        "select",       "show",      "edit curve",      "select all",   "manual retopo"};
+        "add geometry", "add curve", "delete geometry", "delete curve", "rename",  "transform",
+        "select",       "show",      "edit curve",      "select all",   "draw on", "manual retopo"};
     return names[kind];
 }
 
@@ -66,10 +67,10 @@ std::unique_ptr<Operation> HistorySteps::make(int kind)
 {
     using Maker = OperationPointer (HistorySteps::*)();
     static const Maker makers[KindCount] = {
-        &HistorySteps::addGeometry, &HistorySteps::addCurve,    &HistorySteps::deleteGeometry,
-        &HistorySteps::deleteCurve, &HistorySteps::rename,      &HistorySteps::transform,
-        &HistorySteps::select,      &HistorySteps::show,        &HistorySteps::editCurve,
-        &HistorySteps::selectAll,   &HistorySteps::retopologise};
+        &HistorySteps::addGeometry, &HistorySteps::addCurve, &HistorySteps::deleteGeometry,
+        &HistorySteps::deleteCurve, &HistorySteps::rename,   &HistorySteps::transform,
+        &HistorySteps::select,      &HistorySteps::show,     &HistorySteps::editCurve,
+        &HistorySteps::selectAll,   &HistorySteps::drawOn,   &HistorySteps::retopologise};
     const Maker maker = makers[kind];
     return (this->*maker)();
 }
@@ -199,6 +200,12 @@ std::unique_ptr<Operation> HistorySteps::editCurve()
 std::unique_ptr<Operation> HistorySteps::selectAll()
 {
     return std::make_unique<SelectAllOperation>(below(2) == 0);
+}
+
+std::unique_ptr<Operation> HistorySteps::drawOn()
+{
+    const QVector<Geometry *> geometries = nodesOf<Geometry>();
+    return std::make_unique<DrawOnOperation>(geometries[below(geometries.size())]);
 }
 
 std::unique_ptr<Operation> HistorySteps::retopologise()

@@ -19,7 +19,7 @@ class HistorySteps
 public:
     explicit HistorySteps(unsigned seed) : m_random(seed) {}
 
-    static const int KindCount = 11;
+    static const int KindCount = 12;
     static const char *kindName(int kind);
 
     //! Three geometries and a net of curves to begin with. The scene is empty before.
@@ -44,6 +44,7 @@ private:
     OperationPointer show();
     OperationPointer editCurve();
     OperationPointer selectAll();
+    OperationPointer drawOn();
     OperationPointer retopologise();
 
     orvane::Geometry *newGeometry();

@@ -9,6 +9,7 @@
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/operations/addoperations.h>
 #include <orvane/operations/deleteoperations.h>
+#include <orvane/operations/drawonoperation.h>
 #include <orvane/operations/editcurveoperation.h>
 #include <orvane/operations/projectoperation.h>
 #include <orvane/operations/relaxoperation.h>
@@ -19,10 +20,10 @@
 
 using namespace orvane;
 
-const char *const OperationClasses[11] = {
+const char *const OperationClasses[12] = {
     "AddGeometryOperation", "AddCurveOperation",  "DeleteGeometryOperation", "DeleteCurveOperation",
     "RenameOperation",      "TransformOperation", "SelectOperation",         "ShowOperation",
-    "EditCurveOperation",   "RelaxOperation",     "ProjectOperation"};
+    "EditCurveOperation",   "RelaxOperation",     "ProjectOperation",        "DrawOnOperation"};
 
 Geometry *OperationSamples::newGeometry()
 {
@@ -67,5 +68,7 @@ std::unique_ptr<Operation> OperationSamples::makeOperation()
         return std::make_unique<RelaxOperation>(quad(), triangle(), 3, 0.5f);
     if (desc == ProjectOperation::StaticClass())
         return std::make_unique<ProjectOperation>(quad(), triangle());
+    if (desc == DrawOnOperation::StaticClass())
+        return std::make_unique<DrawOnOperation>(quad());
     return nullptr;
 }

@@ -20,7 +20,7 @@ protected:
 };
 
 //! The names of the classes, for INSTANTIATE_TEST_SUITE_P.
-extern const char *const OperationClasses[11];
+extern const char *const OperationClasses[12];
 
 inline std::string sampleName(const testing::TestParamInfo<const char *> &info)
 {

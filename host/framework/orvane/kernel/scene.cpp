@@ -41,7 +41,7 @@ Mesh *Scene::CreateMesh(Topology::FaceType type) const
 
 Geometry *Scene::DrawingSurface() const
 {
-    Node *chosen = NodeTable::Instance().Find(m_drawingSurface);
+    Node *chosen = NodeTable::Instance().Find(m_chosenSurface);
     if (auto *geometry = dynamic_cast<Geometry *>(chosen))
         return geometry;
     return Geometries().value(0);
@@ -105,7 +105,7 @@ void Scene::Clear()
     m_activeHistory.clear();
     qDeleteAll(m_nodes); // each leaves the node table as it goes
     m_nodes.clear();
-    m_drawingSurface = 0;
+    m_chosenSurface = 0;
 }
 
 void Scene::SetActiveGeometry(Geometry *geometry)
@@ -118,7 +118,7 @@ void Scene::SetActiveGeometry(Geometry *geometry)
 
 void Scene::SetDrawingSurface(const Geometry *geometry)
 {
-    m_drawingSurface = geometry ? geometry->ID() : 0;
+    ChooseSurface(geometry ? geometry->ID() : 0);
 }
 
 } // namespace orvane

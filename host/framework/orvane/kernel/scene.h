@@ -11,6 +11,7 @@ class Geometry;
 class Mesh;
 class Node;
 class OrvaneCurve;
+class SceneCamera;
 
 //! Where a node stands in the scene, so that one that comes back stands there again.
 struct ScenePlace
@@ -40,8 +41,12 @@ public:
     //! The geometry that curve tools draw on: the one that was chosen, while it is here, else the
     //! first; null when there is none.
     Geometry *DrawingSurface() const;
+    //! The number of the geometry that was chosen, whether it is here or not; 0 for none.
+    int ChosenSurface() const { return m_chosenSurface; }
     //! The geometry that was made active last of those still here; null when none was.
     Geometry *ActiveGeometry() const;
+    //! The one the view is drawn with; null without a view.
+    const SceneCamera *ActiveCamera() const { return m_activeCamera; }
     //! Has it changed since it was last saved?
     bool IsChanged() const { return m_changed; }
 
@@ -63,13 +68,18 @@ public:
 
     //! A geometry that is not in the scene, or null, is ignored.
     void SetActiveGeometry(Geometry *geometry);
+    //! Not owned; it is reset to null before it goes.
+    void SetActiveCamera(const SceneCamera *camera) { m_activeCamera = camera; }
     void SetDrawingSurface(const Geometry *geometry);
+    //! As ChosenSurface gave it.
+    void ChooseSurface(int id) { m_chosenSurface = id; }
     void SetChanged(bool changed) { m_changed = changed; }
 
 private:
     QVector<Node *> m_nodes; // owned
     QVector<Geometry *> m_activeHistory;
-    int m_drawingSurface = 0; // node number; 0: none was chosen
+    const SceneCamera *m_activeCamera = nullptr;
+    int m_chosenSurface = 0; // node number; 0: none
     bool m_changed = false;
 };
 

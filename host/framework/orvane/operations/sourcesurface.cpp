@@ -28,7 +28,7 @@ float largestCoordinate(const Mesh &mesh)
 } // namespace
 
 SourceSurface::SourceSurface(const Mesh &source)
-    : m_locator(source), m_rounding(RoundingFraction * largestCoordinate(source))
+    : m_locator(source.Locator()), m_rounding(RoundingFraction * largestCoordinate(source))
 {}
 
 SurfacePlace SourceSurface::Closest(const Vector &place) const

@@ -18,7 +18,7 @@ struct SurfacePlace
 };
 
 //! The surface that vertices of other meshes are put onto. The source is a mesh of the scene that
-//! neither changes nor moves while this is in use. Building it takes the time, not asking it.
+//! neither changes nor moves while this is in use.
 class ORVANE_EXPORT SourceSurface
 {
 public:
@@ -29,8 +29,8 @@ public:
     SurfacePlace Closest(const Vector &place) const;
 
 private:
-    SurfaceLocator m_locator;
-    float m_rounding; // scene units; no farther off the surface is on it
+    const SurfaceLocator &m_locator; // the mesh's
+    float m_rounding;                // scene units; no farther off the surface is on it
 };
 
 //! Every vertex of the mesh, put onto the surface.

@@ -257,8 +257,7 @@ TEST(MeshDrawData, facesOfLostVerticesAreLeftOut)
         MeshDrawData data;
         data.Update(*mesh);
         EXPECT_FALSE(data.Triangles().isEmpty());
-        for (const QVector<int> &list : {data.Triangles(), data.Wireframe(), data.Boundary(),
-                                         trianglesByCorners(*mesh).triangles}) {
+        for (const QVector<int> &list : {data.Triangles(), data.Wireframe(), data.Boundary()}) {
             for (int index : list)
                 EXPECT_LT(index, 10);
         }
@@ -273,7 +272,6 @@ TEST(MeshDrawData, anEmptyMeshGivesNothing)
     EXPECT_EQ(data.Update(mesh), 0);
     EXPECT_TRUE(data.Triangles().isEmpty());
     EXPECT_TRUE(flatDrawData(mesh).positions.isEmpty());
-    EXPECT_TRUE(trianglesByCorners(mesh).triangles.isEmpty());
 }
 
 TEST(FlatDrawData, everyCornerHasTheNormalOfItsPolygon)
@@ -308,22 +306,6 @@ TEST(FlatDrawData, everyCornerHasTheNormalOfItsPolygon)
         }
         EXPECT_EQ(next, flat.positions.size());
         EXPECT_EQ(next, flat.normals.size());
-    }
-}
-
-TEST(TrianglesByCorners, eachRunHasThePolygonsOfItsClass)
-{
-    std::mt19937 random(testSeed());
-    for (int round = 0; round < 60; ++round) {
-        const Owned mesh(randomOfKind(round % 3, random));
-        const auto polygons = plainPolygons(*mesh);
-        const orvane::TrianglesByCorners sorted = trianglesByCorners(*mesh);
-        const int *first = sorted.firstIndex;
-        EXPECT_EQ(first[0], 0);
-        EXPECT_EQ(first[3], sorted.triangles.size());
-        EXPECT_EQ(trianglesIn(sorted.triangles, first[0], first[1]), fansOf(polygons, 3, 3));
-        EXPECT_EQ(trianglesIn(sorted.triangles, first[1], first[2]), fansOf(polygons, 4, 4));
-        EXPECT_EQ(trianglesIn(sorted.triangles, first[2], first[3]), fansOf(polygons, 5, 99));
     }
 }
 
@@ -420,11 +402,8 @@ TEST(MeshDrawData, aMillionTrianglesArePreparedInGoodTime)
     timer.restart();
     EXPECT_EQ(flatDrawData(*mesh).positions.size(), 3000000);
     const double flat = double(timer.nsecsElapsed()) / 1e6;
-    timer.restart();
-    EXPECT_EQ(trianglesByCorners(*mesh).triangles.size(), 3000000);
-    const double sorted = double(timer.nsecsElapsed()) / 1e6;
-    std::cout << "first " << first << " ms, unchanged " << again << " ms, flat " << flat
-              << " ms, by corners " << sorted << " ms" << std::endl;
+    std::cout << "first " << first << " ms, unchanged " << again << " ms, flat " << flat << " ms"
+              << std::endl;
     EXPECT_LT(first, double(timeLimit(2000)));
     EXPECT_LT(again, double(timeLimit(100)));
     EXPECT_LT(flat, double(timeLimit(2000)));

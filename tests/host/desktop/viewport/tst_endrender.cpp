@@ -4,6 +4,7 @@
 
 #include <orvane/base/eventgate.h>
 #include <orvane/kernel/kernel.h>
+#include <orvane/kernel/scene.h>
 #include <orvane/kernel/viewport.h>
 
 #include <QTest>
@@ -14,6 +15,8 @@
 using namespace orvane;
 
 namespace {
+
+const GLenum Multisample = 0x809D; // GL_MULTISAMPLE, which old headers have not
 
 // What a plug-in does: follows the event and draws with the fixed pipeline.
 class Overlay : public Node
@@ -28,6 +31,7 @@ public:
     {
         ++calls;
         depthTest = glIsEnabled(GL_DEPTH_TEST);
+        multisample = glIsEnabled(Multisample);
         glGetFloatv(GL_PROJECTION_MATRIX, projection);
         glGetFloatv(GL_MODELVIEW_MATRIX, modelView);
         GLint number = -1;
@@ -54,6 +58,7 @@ public:
     int calls = 0;
     bool leavesAMess = false;
     GLboolean depthTest = GL_TRUE;
+    GLboolean multisample = GL_TRUE;
     float projection[16] = {};
     float modelView[16] = {};
     GLint program = -1;
@@ -92,10 +97,26 @@ TEST_F(EndRender, theFixedPipelineSeesTheCameraAndNoDepthTest)
         EXPECT_FALSE(overlay.depthTest);
         EXPECT_TRUE(isSame(overlay.projection, view.Camera().ProjectionMatrix()));
         EXPECT_TRUE(isSame(overlay.modelView, view.Camera().ViewMatrix()));
+        EXPECT_FALSE(overlay.multisample) << "points are to be smoothed";
         EXPECT_EQ(overlay.program, 0);
         EXPECT_EQ(overlay.buffer, 0);
         EXPECT_EQ(overlay.error, GLenum(GL_NO_ERROR)) << "of the frame before it";
     }
+}
+
+TEST_F(EndRender, theScenesActiveCameraIsTheViews)
+{
+    addToScene(cube());
+    lookAtAll(0.5, 0.3);
+    const SceneCamera *camera = Kernel()->Scene()->ActiveCamera();
+    ASSERT_EQ(camera, &view.Camera());
+    const Matrix product = view.Camera().ViewMatrix() * view.Camera().ProjectionMatrix();
+    EXPECT_EQ(std::memcmp(camera->WorldToClip().Data(), product.Data(), 16 * sizeof(float)), 0);
+    {
+        ViewportWidget other;
+        EXPECT_EQ(Kernel()->Scene()->ActiveCamera(), &other.Camera());
+    }
+    EXPECT_EQ(Kernel()->Scene()->ActiveCamera(), nullptr);
 }
 
 TEST_F(EndRender, whatAFollowerDrawsIsSeenWhereItStandsAndOverSurfaces)
@@ -112,7 +133,7 @@ TEST_F(EndRender, aFollowerThatLeavesAMessSpoilsNoLaterFrame)
 {
     addToScene(cube());
     addCurve({{-1, 0, 0.6f}, {1, 0, 0.6f}});
-    view.SetShowGrid(true);
+    setOption(&orvane::ViewOptions::showGrid, true);
     lookAtAll(0.5, 0.3);
     Overlay overlay;
     const QImage before = picture();

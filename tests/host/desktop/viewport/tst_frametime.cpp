@@ -78,11 +78,11 @@ TEST_F(FrameTime, aFrameOfSeventyThousandTrianglesTakesLessThan150Milliseconds)
     picture();
     ASSERT_GT(mesh->FaceCount(), 70000);
     const FrameCost smooth = whileOrbiting();
-    view.SetShading(Shading::Flat);
+    setOption(&orvane::ViewOptions::shading, Shading::Flat);
     const FrameCost flat = whileOrbiting();
-    view.SetShading(Shading::Matcap);
+    setOption(&orvane::ViewOptions::shading, Shading::Matcap);
     const FrameCost matcap = whileOrbiting();
-    view.SetWireframe(true);
+    setOption(&orvane::ViewOptions::wireframe, true);
     const FrameCost wired = whileOrbiting();
     std::cout << mesh->FaceCount() << " triangles, 20 curves, median ms a frame: smooth " << smooth
               << ", flat " << flat << ", matcap " << matcap << ", with wireframe " << wired

@@ -39,6 +39,14 @@ bool isCurveColour(const QColor &colour)
     return difference(colour, curveColour(CurveLook::Normal)) < 60;
 }
 
+// Blue, and no edge.
+bool isNewFace(const QColor &colour)
+{
+    return colour.blue() > colour.red() + 15 && colour.lightness() > 60;
+}
+
+const int MostBlended = 100; // pixels, half covered by a rim
+
 // The middle of the rim in the first quarter, and the point behind it.
 const Vector NearOnRing(0.0f, -1.0f, 0.0f);
 const Vector FarOnRing(0.0f, 1.0f, 0.0f);
@@ -91,7 +99,7 @@ TEST_F(SceneDrawing, theWireframeHasNoEdgeInsideAPolygon)
     addToScene(polygonOfFakes(6));
     lookAtAll();
     const QImage plain = picture();
-    view.SetWireframe(true);
+    setOption(&orvane::ViewOptions::wireframe, true);
     const QImage wired = picture();
     const QVector<Vector> corners = circle(1.0f, 0.0f, 6);
     for (int i = 0; i < 6; ++i) {
@@ -110,7 +118,7 @@ TEST_F(SceneDrawing, aQuadHasNoDiagonalInTheWireframe)
     addToScene(singleQuad(2.0f));
     lookAtAll();
     const QImage plain = picture();
-    view.SetWireframe(true);
+    setOption(&orvane::ViewOptions::wireframe, true);
     const QImage wired = picture();
     for (float t = 0.1f; t < 0.95f; t += 0.1f) {
         const Vector rising(2.0f * t, 2.0f * t, 0.0f);
@@ -171,7 +179,7 @@ TEST_F(SceneDrawing, xRayShowsACurveBehindTheSurfaceFaintly)
     lookAtAll();
     const QImage opaque = picture();
     EXPECT_FALSE(isCurveColour(colourAt(opaque, {0.2f, 0, -1.5f})));
-    view.SetXRay(true);
+    setOption(&orvane::ViewOptions::xRay, true);
     const QImage image = picture();
     const QColor behind = colourAt(image, {0.2f, 0, -1.5f});
     const QColor beside = colourAt(image, {0.2f, 0.2f, -1.5f});
@@ -196,7 +204,7 @@ TEST_F(SceneDrawing, pointsOfCurvesAreDrawnOnlyWhenAskedFor)
     lookAtAll();
     const QPoint aside = pixelOf({0, 0, 0}) + QPoint(0, -2);
     const QColor without = picture().pixelColor(aside);
-    view.SetCurvePoints(true);
+    setOption(&orvane::ViewOptions::curvePoints, true);
     EXPECT_GT(difference(picture().pixelColor(aside), without), 60);
 }
 
@@ -206,7 +214,7 @@ TEST_F(SceneDrawing, theGridLiesOnTheGroundBehindTheMesh)
     lookAtAll(0.0, 0.5);
     view.Camera().Zoom(1.8);
     const QImage without = picture();
-    view.SetShowGrid(true);
+    setOption(&orvane::ViewOptions::showGrid, true);
     const QImage with = picture();
     // The axes of the ground, a bit away from the cube; the ground is at its bottom.
     EXPECT_GT(difference(colourAt(with, {1.6f, -1, 0}), colourAt(without, {1.6f, -1, 0})), 20);
@@ -219,7 +227,7 @@ TEST_F(SceneDrawing, theAxesStandInTheUpperRightCorner)
 {
     lookAtAll();
     const QImage without = picture();
-    view.SetShowGizmo(true);
+    setOption(&orvane::ViewOptions::showGizmo, true);
     const QImage with = picture();
     const QPoint middle(view.width() - 62, 62);
     const QColor right = with.pixelColor(middle + QPoint(20, 0));
@@ -275,8 +283,31 @@ TEST_F(SceneDrawing, aNewMeshStandsOutAndItsSourceStepsBack)
     EXPECT_GT(face.blue(), face.red() + 15) << "the face is before its source";
     const QColor edge = colourAt(image, {a, 0.0f, z});
     EXPECT_LT(edge.lightness(), face.lightness() - 60);
-    view.SetDimSource(false);
+    setOption(&orvane::ViewOptions::dimSource, false);
     EXPECT_LT(difference(colourAt(picture(), beside), before), 3);
+}
+
+TEST_F(SceneDrawing, aRoundSourceDoesNotPokeThroughACoarseMeshOnIt)
+{
+    Geometry *source = addToScene(sphere(64, 128), QStringLiteral("Source"));
+    Geometry *mesh = addToScene(sphere(8, 16), QStringLiteral("New"));
+    Kernel()->Scene()->SetActiveGeometry(mesh);
+    lookAtAll(0.4, 0.3);
+    const QImage both = picture();
+    source->SetHidden(true);
+    const QImage alone = picture();
+    int faces = 0;
+    int poking = 0;
+    for (int y = 0; y < alone.height(); ++y) {
+        for (int x = 0; x < alone.width(); ++x) {
+            if (!isNewFace(alone.pixelColor(x, y)))
+                continue;
+            ++faces;
+            poking += isNewFace(both.pixelColor(x, y)) ? 0 : 1;
+        }
+    }
+    EXPECT_GT(faces, 10000);
+    EXPECT_LT(poking, MostBlended);
 }
 
 TEST_F(SceneDrawing, aSelectedMeshIsTinted)
@@ -305,9 +336,9 @@ TEST_F(SceneDrawing, theSurfaceLooksAnotherWayInEachShading)
     addToScene(sphere(6, 8));
     lookAtAll(0.3, 0.3);
     const QImage smooth = picture();
-    view.SetShading(Shading::Flat);
+    setOption(&orvane::ViewOptions::shading, Shading::Flat);
     const QImage flat = picture();
-    view.SetShading(Shading::Matcap);
+    setOption(&orvane::ViewOptions::shading, Shading::Matcap);
     const QImage matcap = picture();
     EXPECT_GT(differentPixels(smooth, flat), 3000);
     EXPECT_GT(differentPixels(smooth, matcap), 10000);
@@ -318,7 +349,7 @@ TEST_F(SceneDrawing, aPolygonOfFakesIsOneFaceInFlatShading)
 {
     addToScene(polygonOfFakes(6));
     lookAtAll(0.2, 0.2);
-    view.SetShading(Shading::Flat);
+    setOption(&orvane::ViewOptions::shading, Shading::Flat);
     const QImage image = picture();
     EXPECT_LT(difference(colourAt(image, {0.4f, 0.3f, 0}), colourAt(image, {-0.4f, -0.3f, 0})), 3);
 }
@@ -345,7 +376,7 @@ TEST_F(SceneDrawing, theHeadsUpLineCanBeHidden)
     EXPECT_FALSE(label->isVisible());
     view.SetHudText(QStringLiteral("head.obj"));
     EXPECT_TRUE(label->isVisible());
-    view.SetShowHud(false);
+    setOption(&orvane::ViewOptions::showHud, false);
     EXPECT_FALSE(label->isVisible());
 }
 
@@ -375,9 +406,9 @@ TEST_F(SceneDrawing, theViewStillDrawsInsideAnotherWindow)
 TEST_F(SceneDrawing, thePictureIsOpaqueEverywhere)
 {
     addToScene(cube());
-    view.SetXRay(true);
-    view.SetShowGrid(true);
-    view.SetShowGizmo(true);
+    setOption(&orvane::ViewOptions::xRay, true);
+    setOption(&orvane::ViewOptions::showGrid, true);
+    setOption(&orvane::ViewOptions::showGizmo, true);
     lookAtAll(0.4, 0.4);
     const QImage image = picture().convertToFormat(QImage::Format_ARGB32);
     int seeThrough = 0;

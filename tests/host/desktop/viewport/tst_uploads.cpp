@@ -62,7 +62,7 @@ protected:
 TEST_F(Uploads, movingTheCameraUploadsNothing)
 {
     for (Shading shading : {Shading::Smooth, Shading::Flat, Shading::Matcap}) {
-        view.SetShading(shading);
+        setOption(&orvane::ViewOptions::shading, shading);
         picture();
         const int before = ViewportWidget::UploadCount();
         EXPECT_GT(before, 0);
@@ -89,7 +89,7 @@ TEST_F(Uploads, hoveringSelectingAndHidingUploadNothing)
 
 TEST_F(Uploads, movingAMeshAsAWholeUploadsNoneOfItsArrays)
 {
-    view.SetShowGrid(false); // it goes with the size of the scene
+    setOption(&orvane::ViewOptions::showGrid, false); // it goes with the size of the scene
     geometry->Placement()->SetWorldMatrix(Matrix::Translation(Vector(0.5f, 0, 0)));
     EXPECT_EQ(uploadsOfAFrame(), 0);
 }

@@ -3,9 +3,6 @@
 #include "tests/host/desktop/viewport/viewporttest.h"
 #include "tests/support/shapes.h"
 
-#include <orvane/kernel/kernel.h>
-#include <orvane/kernel/scene.h>
-
 #include <QSignalSpy>
 #include <QTabletEvent>
 #include <QTest>
@@ -196,28 +193,6 @@ TEST_F(ViewInput, theCursorIsTheToolsUntilTheCameraMoves)
     view.SetClient(nullptr);
     EXPECT_EQ(view.cursor().shape(), Qt::ArrowCursor);
     EXPECT_EQ(client.left, 1);
-}
-
-TEST_F(ViewInput, theCurveUnderThePointerIsTold)
-{
-    OrvaneCurve *curve = addCurve({{-0.5f, 0, 0.5f}, {0.5f, 0, 0.5f}});
-    int told = 0;
-    QObject::connect(&view, &ViewportWidget::hovering, [&told] { ++told; });
-    const QPoint on = pixelOf({0.1f, 0, 0.5f});
-    QMouseEvent over(QEvent::MouseMove, on, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view, &over);
-    EXPECT_EQ(view.HoveredCurve(), curve);
-    QMouseEvent away(QEvent::MouseMove, on + QPoint(0, 40), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&view, &away);
-    EXPECT_EQ(view.HoveredCurve(), nullptr);
-    EXPECT_EQ(told, 2);
-    QCoreApplication::sendEvent(&view, &over);
-    EXPECT_EQ(view.HoveredCurve(), curve);
-    Kernel()->Scene()->RemoveCurve(curve);
-    EXPECT_EQ(view.HoveredCurve(), nullptr);
-    picture();
-    delete curve;
 }
 
 TEST_F(ViewInput, linesAndShapesOfTheToolAreDrawn)

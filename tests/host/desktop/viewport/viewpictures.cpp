@@ -33,6 +33,14 @@ void hideNewMeshes(bool hide)
     }
 }
 
+template <typename Value>
+void setOption(ViewportWidget &view, Value ViewOptions::*option, Value value)
+{
+    ViewOptions options = view.Options();
+    options.*option = value;
+    view.SetOptions(options);
+}
+
 void takePictures(ViewportWidget &view, const QString &folder)
 {
     view.Look(StandardView::Front);
@@ -40,21 +48,21 @@ void takePictures(ViewportWidget &view, const QString &folder)
     view.FrameAll();
     hideNewMeshes(true);
     save(view, folder, QStringLiteral("curves"));
-    view.SetShading(Shading::Flat);
+    setOption(view, &ViewOptions::shading, Shading::Flat);
     save(view, folder, QStringLiteral("flat"));
-    view.SetShading(Shading::Matcap);
+    setOption(view, &ViewOptions::shading, Shading::Matcap);
     save(view, folder, QStringLiteral("matcap"));
-    view.SetShading(Shading::Smooth);
-    view.SetWireframe(true);
+    setOption(view, &ViewOptions::shading, Shading::Smooth);
+    setOption(view, &ViewOptions::wireframe, true);
     save(view, folder, QStringLiteral("wireframe"));
-    view.SetWireframe(false);
-    view.SetXRay(true);
+    setOption(view, &ViewOptions::wireframe, false);
+    setOption(view, &ViewOptions::xRay, true);
     save(view, folder, QStringLiteral("xray"));
-    view.SetXRay(false);
+    setOption(view, &ViewOptions::xRay, false);
     view.Camera().Zoom(0.35);
-    view.SetCurvePoints(true);
+    setOption(view, &ViewOptions::curvePoints, true);
     save(view, folder, QStringLiteral("near"));
-    view.SetCurvePoints(false);
+    setOption(view, &ViewOptions::curvePoints, false);
     hideNewMeshes(false);
     save(view, folder, QStringLiteral("newmeshnear"));
     view.FrameAll();

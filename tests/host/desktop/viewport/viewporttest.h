@@ -22,6 +22,14 @@ protected:
     //! The pixel where a place of the world is seen.
     QPoint pixelOf(const orvane::Vector &place);
     QColor colourAt(const QImage &image, const orvane::Vector &place);
+    //! Sets one of the view's options.
+    template <typename Value>
+    void setOption(Value orvane::ViewOptions::*option, Value value)
+    {
+        orvane::ViewOptions options = view.Options();
+        options.*option = value;
+        view.SetOptions(options);
+    }
     //! Shows the whole scene from before it, turned by so many radians.
     void lookAtAll(double right = 0.0, double up = 0.0);
 

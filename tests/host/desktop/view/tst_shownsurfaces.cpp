@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/desktop/view/surfacecache.h"
+#include "host/desktop/view/shownsurfaces.h"
 #include "tests/support/scenecleaner.h"
 #include "tests/support/shapes.h"
 
@@ -13,33 +13,30 @@ using namespace orvane;
 
 namespace {
 
-class Surfaces : public SceneCleaner
+class ShownSurfaces : public SceneCleaner
 {
 protected:
     //! The height of the surface above (0.2, 0.2), or -1 where the ray misses.
     float heightOn(const Geometry *geometry)
     {
         const SurfacePoint point =
-            cache.LocatorOf(geometry)->Pick(Vector(0.2f, 0.2f, 10.0f), Vector(0, 0, -1));
+            locatorOf(geometry)->Pick(Vector(0.2f, 0.2f, 10.0f), Vector(0, 0, -1));
         return point.Mesh() ? point.WorldPosition().z : -1.0f;
     }
-
-    SurfaceCache cache;
 };
 
 } // namespace
 
-TEST_F(Surfaces, aSurfaceIsPreparedOnceWhileItStaysTheSame)
+TEST_F(ShownSurfaces, aSurfaceIsPreparedOnceWhileItStaysTheSame)
 {
     const Geometry *geometry = addToScene(singleQuad());
-    const SurfaceLocator *locator = cache.LocatorOf(geometry);
+    const SurfaceLocator *locator = locatorOf(geometry);
     EXPECT_FLOAT_EQ(heightOn(geometry), 0.0f);
-    EXPECT_EQ(cache.LocatorOf(geometry), locator);
-    EXPECT_EQ(cache.Visible(), SurfaceList{locator});
-    EXPECT_EQ(cache.BuildCount(), 1);
+    EXPECT_EQ(locatorOf(geometry), locator);
+    EXPECT_EQ(shownSurfaces(), SurfaceList{locator});
 }
 
-TEST_F(Surfaces, aChangedShapeIsFoundWhereItIsNow)
+TEST_F(ShownSurfaces, aChangedShapeIsFoundWhereItIsNow)
 {
     SubdivisionLevel *mesh = singleTriangle();
     const Geometry *geometry = addToScene(mesh);
@@ -51,7 +48,7 @@ TEST_F(Surfaces, aChangedShapeIsFoundWhereItIsNow)
     EXPECT_FLOAT_EQ(heightOn(geometry), -1.0f) << "a face without area is not hit";
 }
 
-TEST_F(Surfaces, aMovedGeometryIsFoundWhereItIsNow)
+TEST_F(ShownSurfaces, aMovedGeometryIsFoundWhereItIsNow)
 {
     Geometry *geometry = addToScene(singleQuad());
     EXPECT_FLOAT_EQ(heightOn(geometry), 0.0f);
@@ -59,7 +56,7 @@ TEST_F(Surfaces, aMovedGeometryIsFoundWhereItIsNow)
     EXPECT_FLOAT_EQ(heightOn(geometry), 3.0f);
 }
 
-TEST_F(Surfaces, anotherLevelIsAnotherSurface)
+TEST_F(ShownSurfaces, anotherLevelIsAnotherSurface)
 {
     Geometry *geometry = addToScene(singleQuad());
     EXPECT_FLOAT_EQ(heightOn(geometry), 0.0f);
@@ -69,7 +66,7 @@ TEST_F(Surfaces, anotherLevelIsAnotherSurface)
     EXPECT_FLOAT_EQ(heightOn(geometry), 0.0f);
 }
 
-TEST_F(Surfaces, theListHasWhatIsShownInTheOrderOfTheScene)
+TEST_F(ShownSurfaces, theListHasWhatIsShownInTheOrderOfTheScene)
 {
     Geometry *first = addToScene(singleQuad());
     Geometry *hidden = addToScene(cube());
@@ -77,21 +74,20 @@ TEST_F(Surfaces, theListHasWhatIsShownInTheOrderOfTheScene)
     Kernel()->Scene()->AddGeometry(new Geometry); // without a level; owned by the scene
     Geometry *last = addToScene(tetrahedron());
     const QVector<Geometry *> shown = {first, last};
-    EXPECT_EQ(cache.VisibleGeometries(), shown);
-    const SurfaceList wanted = {cache.LocatorOf(first), cache.LocatorOf(last)};
-    EXPECT_EQ(cache.Visible(), wanted);
-    EXPECT_NE(cache.LocatorOf(hidden), nullptr);
+    EXPECT_EQ(shownGeometries(), shown);
+    const SurfaceList wanted = {locatorOf(first), locatorOf(last)};
+    EXPECT_EQ(shownSurfaces(), wanted);
+    EXPECT_NE(locatorOf(hidden), nullptr);
 }
 
-TEST_F(Surfaces, whatIsNotInTheSceneHasNoSurface)
+TEST_F(ShownSurfaces, whatIsNotInTheSceneHasNoSurface)
 {
-    EXPECT_EQ(cache.LocatorOf(nullptr), nullptr);
+    EXPECT_EQ(locatorOf(nullptr), nullptr);
     Geometry *geometry = addToScene(singleQuad());
-    EXPECT_NE(cache.LocatorOf(geometry), nullptr);
+    EXPECT_NE(locatorOf(geometry), nullptr);
     Kernel()->Scene()->RemoveGeometry(geometry);
-    EXPECT_EQ(cache.LocatorOf(geometry), nullptr);
-    EXPECT_TRUE(cache.Visible().isEmpty());
+    EXPECT_EQ(locatorOf(geometry), nullptr);
+    EXPECT_TRUE(shownSurfaces().isEmpty());
     Kernel()->Scene()->AddGeometry(geometry);
     EXPECT_FLOAT_EQ(heightOn(geometry), 0.0f);
-    EXPECT_EQ(cache.BuildCount(), 2) << "it was dropped when it left";
 }
