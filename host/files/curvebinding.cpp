@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/curvebinding.h"
 
+#include <orvane/geometry/mesh.h>
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/geometry/surfacelocator.h>
 
@@ -13,7 +14,8 @@ namespace {
 class CurveBinder
 {
 public:
-    CurveBinder(const Mesh &mesh, float maxDistance) : m_locator(mesh), m_maxDistance(maxDistance)
+    CurveBinder(const SurfaceLocator &locator, float maxDistance)
+        : m_locator(locator), m_maxDistance(maxDistance)
     {}
 
     void bind(OrvaneCurve *curve)
@@ -56,7 +58,7 @@ private:
         return isOnFirst ? CurvePoint(curve.ClosingPosition()) : point;
     }
 
-    SurfaceLocator m_locator;
+    const SurfaceLocator &m_locator;
     float m_maxDistance; // scene units
     CurveBinding m_result;
 };
@@ -65,7 +67,7 @@ private:
 
 CurveBinding bindCurves(const QVector<OrvaneCurve *> &curves, const Mesh &mesh, float maxDistance)
 {
-    CurveBinder binder(mesh, maxDistance);
+    CurveBinder binder(mesh.Locator(), maxDistance);
     for (OrvaneCurve *curve : curves)
         binder.bind(curve);
     return binder.result();

@@ -171,8 +171,10 @@ private:
     void writeNumbers(const char *keyword, std::initializer_list<float> numbers)
     {
         m_text += keyword;
-        for (float number : numbers)
-            m_text += ' ' + numberText(number);
+        for (float number : numbers) {
+            m_text += ' ';
+            appendNumber(&m_text, number);
+        }
         m_text += '\n';
     }
 
@@ -181,13 +183,16 @@ private:
     {
         const int vertex = mesh.polygons.corners[slot] + 1;
         const int uv = mesh.polygons.uvCorners[slot] + 1;
-        m_text += ' ' + QByteArray::number(m_vertices + vertex);
+        m_text += ' ';
+        appendNumber(&m_text, m_vertices + vertex);
         if (uv > 0 || !mesh.normals.isEmpty())
             m_text += '/';
         if (uv > 0)
-            m_text += QByteArray::number(m_uvs + uv);
-        if (!mesh.normals.isEmpty())
-            m_text += '/' + QByteArray::number(m_normals + vertex);
+            appendNumber(&m_text, m_uvs + uv);
+        if (!mesh.normals.isEmpty()) {
+            m_text += '/';
+            appendNumber(&m_text, m_normals + vertex);
+        }
     }
 
     QByteArray m_text;

@@ -88,6 +88,8 @@ bool isMirrored(const Matrix &matrix)
 
 bool isFlat(const int *corners, int count)
 {
+    if (count == 3)
+        return corners[0] == corners[1] || corners[1] == corners[2] || corners[2] == corners[0];
     QVarLengthArray<int, 8> sorted(count);
     std::copy(corners, corners + count, sorted.begin());
     std::sort(sorted.begin(), sorted.end());
@@ -179,11 +181,18 @@ void joinEqualPlaces(PolygonMesh *mesh)
 
 int dropFlatPolygons(PolygonMesh *mesh)
 {
-    PolygonMesh kept;
     const PolygonList &polygons = mesh->polygons;
+    QVector<int> flat;
+    for (int p = 0; p < polygonCount(*mesh); ++p) {
+        if (isFlat(polygons.Corners(p), polygons.CornerCount(p)))
+            flat.append(p);
+    }
+    if (flat.isEmpty())
+        return 0;
+    PolygonMesh kept;
     int dropped = 0;
     for (int p = 0; p < polygonCount(*mesh); ++p) {
-        if (isFlat(polygons.Corners(p), polygons.CornerCount(p))) {
+        if (dropped < flat.size() && flat[dropped] == p) {
             ++dropped;
             continue;
         }
@@ -191,8 +200,7 @@ int dropFlatPolygons(PolygonMesh *mesh)
             kept.addCorner(polygons.corners[slot], polygons.uvCorners[slot]);
         kept.endPolygon();
     }
-    if (dropped > 0)
-        mesh->polygons = kept.polygons;
+    mesh->polygons = kept.polygons;
     return dropped;
 }
 
@@ -201,6 +209,8 @@ void dropLooseVertices(PolygonMesh *mesh)
     QVector<int> number(mesh->positions.size(), -1);
     for (int vertex : qAsConst(mesh->polygons.corners))
         number[vertex] = 0;
+    if (!number.contains(-1))
+        return;
     int kept = 0;
     for (int v = 0; v < number.size(); ++v) {
         if (number[v] < 0)

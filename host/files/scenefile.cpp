@@ -126,18 +126,16 @@ private:
     QMap<int, UndoStep> m_steps;   // by place in the queue
 };
 
-bool writeSections(QIODevice *device)
+bool writeSections(QIODevice *device, const SceneSnapshot &snapshot)
 {
-    if (!writeSceneHead(device) || !writeSection(device, MetaSection, packMeta()))
+    if (!writeSceneHead(device) || !writeSection(device, MetaSection, snapshot.meta))
         return false;
-    const Scene &scene = *Kernel()->Scene();
-    for (int i = 0; i < scene.NodeCount(); ++i) {
-        if (!writeSection(device, NodeSection, packNode(i, recordOf(scene.NodeAt(i)))))
+    for (int i = 0; i < snapshot.nodes.size(); ++i) {
+        if (!writeSection(device, NodeSection, packNode(i, snapshot.nodes[i])))
             return false;
     }
-    const QVector<UndoStep> &steps = Kernel()->Undos().Steps();
-    for (int i = 0; i < steps.size(); ++i) {
-        if (!writeSection(device, StepSection, packStep(i, steps[i])))
+    for (int i = 0; i < snapshot.steps.size(); ++i) {
+        if (!writeSection(device, StepSection, packStep(i, snapshot.steps[i])))
             return false;
     }
     return true;
@@ -191,17 +189,39 @@ QStringList openScene(const SceneContents &contents)
     NodeTable::Instance().Reserve(contents.lastID);
     for (int id : contents.active)
         scene->SetActiveGeometry(geometryOf(id));
-    scene->SetDrawingSurface(geometryOf(contents.drawingSurface));
+    scene->ChooseSurface(contents.drawingSurface);
     Kernel()->Preferences()->renderMeshFaults.SetValue(contents.renderMeshFaults);
     if (damage.isEmpty())
         Kernel()->Undos().Restore(contents.steps, contents.stepsDone);
     return damage;
 }
 
+bool takeSnapshot(SceneSnapshot *snapshot)
+{
+    if (Kernel()->IsOperationRunning())
+        return false;
+    const Scene &scene = *Kernel()->Scene();
+    snapshot->meta = packMeta();
+    snapshot->nodes.clear();
+    for (int i = 0; i < scene.NodeCount(); ++i)
+        snapshot->nodes.append(recordOf(scene.NodeAt(i)));
+    snapshot->steps = Kernel()->Undos().Steps();
+    return true;
+}
+
+bool writeSnapshot(const SceneSnapshot &snapshot, const QString &path, QString *error)
+{
+    const auto write = [&snapshot](QIODevice *device) {
+        return writeSections(device, snapshot);
+    };
+    return writeWhole(path, write, error);
+}
+
 bool writeScene(const QString &path, QString *error)
 {
-    if (!Kernel()->IsOperationRunning())
-        return writeWhole(path, writeSections, error);
+    SceneSnapshot snapshot;
+    if (takeSnapshot(&snapshot))
+        return writeSnapshot(snapshot, path, error);
     *error = aboutFile(path, QString::fromUtf8(RunningText));
     return false;
 }

@@ -33,6 +33,22 @@ ORVANE_FILES_EXPORT bool readScene(const QString &path, SceneContents *contents,
 //! Nothing happens while an operation runs.
 ORVANE_FILES_EXPORT QStringList openScene(const SceneContents &contents);
 
+//! What a file of the kernel's scene is made of, as it was at one moment: the scene may go on
+//! changing while another thread writes it. Steps of the history are shared, not copied.
+struct SceneSnapshot
+{
+    QByteArray meta;           // the section about the scene as a whole
+    QVector<NodeRecord> nodes; // in the order of the scene's list
+    QVector<UndoStep> steps;   // oldest first
+};
+
+//! False while an operation runs.
+ORVANE_FILES_EXPORT bool takeSnapshot(SceneSnapshot *snapshot);
+
+//! As writeScene writes the scene that the snapshot was taken of. May run in any thread.
+ORVANE_FILES_EXPORT bool writeSnapshot(const SceneSnapshot &snapshot, const QString &path,
+                                       QString *error);
+
 //! Writes the kernel's scene, its undo queue and the preferences that belong to the scene. A file
 //! of that name is replaced only once the new one is whole.
 //! False, and one sentence in *error, when it could not be, or while an operation runs.

@@ -82,7 +82,6 @@ QByteArray packMeta()
         for (const Node *part : partsOf(scene.NodeAt(i)))
             part->ID(); // given at the first asking, and the highest is noted below
     }
-    const Geometry *surface = scene.DrawingSurface();
     const AttributeInstance<bool> &faults = Kernel()->Preferences()->renderMeshFaults;
     const QJsonObject meta{
         {NodesKey, nodeNames(scene)},
@@ -90,7 +89,7 @@ QByteArray packMeta()
         {StepsDoneKey, Kernel()->Undos().Position()},
         {LastIDKey, NodeTable::Instance().LastID()},
         {ActiveKey, activeIDs(scene)},
-        {DrawingSurfaceKey, surface ? surface->ID() : 0},
+        {DrawingSurfaceKey, scene.ChosenSurface()},
         {PreferencesKey, QJsonObject{{faults.ID(), faults.Value()}}},
     };
     return QJsonDocument(meta).toJson(QJsonDocument::Compact);
@@ -152,6 +151,8 @@ QByteArray packStep(int place, const UndoStep &step)
     stream << qint32(place) << qint32(step.size());
     for (const OperationRecord &operation : step)
         stream << operation.className.toUtf8() << operation.bytes;
+    if (!step.first().title.isEmpty())
+        stream << step.first().title.toUtf8();
     return bytes;
 }
 
@@ -169,6 +170,8 @@ bool unpackStep(const QByteArray &bytes, int *place, UndoStep *step)
         stream >> operation.bytes;
         step->append(operation);
     }
+    if (stream.status() == QDataStream::Ok && !stream.atEnd())
+        step->first().title = readName(&stream);
     return isReadToEnd(stream);
 }
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/textwords.h"
 
+#include <QtAlgorithms>
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace orvane {
@@ -11,6 +14,8 @@ namespace orvane {
 namespace {
 
 const char ByteOrderMark[] = "\xef\xbb\xbf"; // of UTF-8
+const int MostDigits = std::numeric_limits<float>::max_digits10;
+const size_t LongestNumber = 32; // characters, with room to spare
 
 bool isSpace(char c)
 {
@@ -33,6 +38,26 @@ bool isTiny(std::string_view word)
     if (code == std::errc())
         return std::abs(value) < 1.0;
     return word.find("e-") != word.npos || word.find("E-") != word.npos;
+}
+
+// Does the value lie halfway between two numbers of nine digits? That takes all bits of a number of
+// ten digits, the last a 5 behind the point.
+bool isHalfway(float value)
+{
+    const double tens[] = {1e0, 1e1, 1e2, 1e3,  1e4,  1e5,  1e6,
+                           1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13};
+    quint32 bits = 0;
+    std::memcpy(&bits, &value, sizeof(bits));
+    const int exponent = int(bits >> 23 & 0xff);
+    const quint32 mantissa = (bits & 0x7fffff) | (exponent > 0 ? 0x800000 : 0);
+    if (mantissa == 0)
+        return false;
+    const int lowestBit = std::max(exponent, 1) - 150 + int(qCountTrailingZeroBits(mantissa));
+    const int places = -1 - lowestBit; // behind the point, of nine digits; the value has one more
+    if (places < 0 || places >= int(std::size(tens)))
+        return false;
+    const double scaled = std::abs(double(value)) * tens[places];
+    return scaled >= 1e8 && scaled < 1e9;
 }
 
 } // namespace
@@ -63,7 +88,30 @@ std::optional<int> integerIn(std::string_view word)
 
 QByteArray numberText(float value)
 {
-    return QByteArray::number(double(value), 'g', std::numeric_limits<float>::max_digits10);
+    QByteArray text;
+    appendNumber(&text, value);
+    return text;
+}
+
+void appendNumber(QByteArray *text, float value)
+{
+    // Qt writes no -0 and rounds a half up; the standard library rounds it to even.
+    if (value == 0.0f || !std::isfinite(value) || isHalfway(value)) {
+        *text += QByteArray::number(double(value), 'g', MostDigits);
+        return;
+    }
+    char number[LongestNumber];
+    const char *end = std::to_chars(number, std::end(number), double(value),
+                                    std::chars_format::general, MostDigits)
+                          .ptr;
+    text->append(number, int(end - number));
+}
+
+void appendNumber(QByteArray *text, int value)
+{
+    char number[LongestNumber];
+    const char *end = std::to_chars(number, std::end(number), value).ptr;
+    text->append(number, int(end - number));
 }
 
 TextLines::TextLines(const QByteArray &text, bool joined)
@@ -93,7 +141,9 @@ bool TextLines::next()
 std::string_view TextLines::takeLine()
 {
     ++m_line;
-    const size_t end = std::min(m_rest.find_first_of("\r\n"), m_rest.size());
+    size_t end = 0;
+    while (end < m_rest.size() && m_rest[end] != '\n' && m_rest[end] != '\r')
+        ++end;
     std::string_view text = m_rest.substr(0, end);
     m_rest.remove_prefix(end);
     m_rest.remove_prefix(m_rest.substr(0, 2) == "\r\n" ? 2 : std::min<size_t>(1, m_rest.size()));

@@ -18,6 +18,8 @@ std::optional<int> integerIn(std::string_view word);
 
 //! In up to 9 digits: reading it back gives the same float.
 QByteArray numberText(float value);
+void appendNumber(QByteArray *text, float value);
+void appendNumber(QByteArray *text, int value);
 
 //! Goes through the lines of a text as rows of words. Texts that other programs wrote may end
 //! lines in any of the usual ways.

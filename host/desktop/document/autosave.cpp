@@ -58,9 +58,9 @@ void Autosave::SetInterval(int milliseconds)
 
 void Autosave::onTimeout()
 {
-    const bool mustWait = Kernel()->IsOperationRunning();
-    if (!mustWait)
-        SaveNow();
+    const bool mustWait = Kernel()->IsOperationRunning() || m_writer;
+    if (!mustWait && hasNews())
+        begin();
     m_timer.start(mustWait ? qMin(RetryTime, m_interval) : m_interval);
 }
 
@@ -68,31 +68,67 @@ bool Autosave::SaveNow()
 {
     if (Kernel()->IsOperationRunning())
         return false;
-    const int revision = m_document->Revision();
-    if (!m_document->IsChanged() || revision == m_savedRevision)
+    end();
+    if (!hasNews())
         return true;
-    QString error;
-    if (write(&error)) {
-        m_savedRevision = revision;
-        m_hasFailed = false;
-        emit saved();
-        return true;
-    }
-    if (!m_hasFailed)
-        emit failed(error);
-    m_hasFailed = true;
-    return false;
+    begin();
+    end();
+    return !m_hasFailed;
 }
 
-bool Autosave::write(QString *error)
+bool Autosave::hasNews() const
 {
-    if (!QDir().mkpath(m_folder) || !m_files.Lock()) {
-        *error = aboutFile(m_folder, tr("unsaved work cannot be kept there; expected a folder that "
-                                        "can be written."));
-        return false;
+    return m_document->IsChanged() && m_document->Revision() != m_savedRevision;
+}
+
+// Packing and writing a large scene takes long enough to be felt, and needs nothing of the scene.
+void Autosave::begin()
+{
+    SceneSnapshot snapshot;
+    if (!QDir().mkpath(m_folder) || !m_files.Lock() || !takeSnapshot(&snapshot)) {
+        m_error =
+            aboutFile(m_folder, tr("unsaved work cannot be kept there; expected a folder that "
+                                   "can be written."));
+        tell();
+        return;
     }
-    return writeScene(m_files.ScenePath(), error)
-           && writeWhole(m_files.AboutPath(), aboutText(*m_document), error);
+    m_error.clear();
+    m_writtenRevision = m_document->Revision();
+    m_writer.reset(
+        QThread::create([this, snapshot, scenePath = m_files.ScenePath(),
+                         aboutPath = m_files.AboutPath(), about = aboutText(*m_document)] {
+            if (writeSnapshot(snapshot, scenePath, &m_error))
+                writeWhole(aboutPath, about, &m_error);
+        }));
+    connect(m_writer.data(), &QThread::finished, this, &Autosave::onFinished);
+    m_writer->start();
+}
+
+void Autosave::onFinished()
+{
+    if (m_writer && m_writer->isFinished()) // rather than one that SaveNow has waited for
+        end();
+}
+
+void Autosave::end()
+{
+    if (!m_writer)
+        return;
+    m_writer->wait();
+    m_writer.reset();
+    tell();
+}
+
+void Autosave::tell()
+{
+    const bool isFirstFailure = !m_error.isEmpty() && !m_hasFailed;
+    m_hasFailed = !m_error.isEmpty();
+    if (isFirstFailure)
+        emit failed(m_error);
+    if (m_hasFailed)
+        return;
+    m_savedRevision = m_writtenRevision;
+    emit saved();
 }
 
 FileReport Autosave::Recover(const Recovery &recovery)
@@ -113,6 +149,9 @@ FileReport Autosave::Recover(const Recovery &recovery)
 
 void Autosave::removeCopy()
 {
+    if (m_writer)
+        m_writer->wait(); // or the copy would come back
+    m_writer.reset();
     m_files.Remove();
     m_savedRevision = -1;
 }

@@ -6,6 +6,8 @@
 #include "host/desktop/document/sessionfiles.h"
 
 #include <QObject>
+#include <QScopedPointer>
+#include <QThread>
 #include <QTimer>
 
 namespace orvane {
@@ -13,9 +15,9 @@ namespace orvane {
 class Document;
 
 //! Keeps a copy of unsaved work in a file that outlives a crash: written every 20 seconds when the
-//! scene has changed, never while an operation runs, removed once the work is saved or given up,
-//! and by the destructor. Work that was undone stays in it. Its time is that of timers; no clock
-//! that people set matters.
+//! scene has changed, by a thread of its own, never begun while an operation runs, removed once the
+//! work is saved or given up, and by the destructor. Work that was undone stays in it. Its time is
+//! that of timers; no clock that people set matters.
 class Autosave : public QObject
 {
     Q_OBJECT
@@ -44,16 +46,23 @@ signals:
 
 private:
     void onTimeout();
-    bool write(QString *error);
+    void onFinished();
+    bool hasNews() const;
+    void begin();
+    void end();
+    void tell();
     void removeCopy();
 
     Document *m_document; // not owned; outlives this
     QString m_folder;
     SessionFiles m_files; // locked: this session is alive
     QTimer m_timer;
-    int m_interval;           // milliseconds
-    int m_savedRevision = -1; // of the copy; -1: there is none, or not all of it
-    bool m_hasFailed = false; // the last time
+    int m_interval;                   // milliseconds
+    int m_savedRevision = -1;         // of the copy; -1: there is none, or not all of it
+    QScopedPointer<QThread> m_writer; // of the copy that is being written
+    int m_writtenRevision = -1;       // of that copy
+    QString m_error;                  // the writer's, until it has finished; empty: none
+    bool m_hasFailed = false;         // the last time
 };
 
 } // namespace orvane

@@ -16,6 +16,8 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QScopedPointer>
+#include <QThread>
 
 using namespace orvane;
 
@@ -108,6 +110,25 @@ TEST_F(SceneFile, whatIsSavedAndOpenedSavesToTheSameBytes)
     EXPECT_EQ(bytesOf(save(QStringLiteral("b.orvane"))), saved);
 }
 
+TEST_F(SceneFile, aSnapshotIsTheSceneOfItsMomentWhateverComesAfter)
+{
+    fillScene();
+    SceneSnapshot snapshot;
+    ASSERT_TRUE(takeSnapshot(&snapshot));
+    const QByteArray then = bytesOf(save());
+    Kernel()->Scene()->Geometries().first()->CurrentLevel()->SetVertexPosition(0, {7, 8, 9});
+    EXPECT_TRUE(Kernel()->Undo());
+    EXPECT_TRUE(Kernel()->NewScene());
+    QString error;
+    bool isWritten = false;
+    const QScopedPointer<QThread> thread(QThread::create(
+        [&] { isWritten = writeSnapshot(snapshot, QStringLiteral("later.orvane"), &error); }));
+    thread->start();
+    thread->wait();
+    EXPECT_TRUE(isWritten) << qPrintable(error);
+    EXPECT_EQ(bytesOf(QStringLiteral("later.orvane")), then);
+}
+
 TEST_F(SceneFile, everythingComesBackAsItWas)
 {
     fillScene();
@@ -180,6 +201,34 @@ TEST_F(SceneFile, theDrawingSurfaceThatWasChosenComesBack)
     openScene(read(QStringLiteral("a.orvane")));
     ASSERT_NE(Kernel()->Scene()->DrawingSurface(), nullptr);
     EXPECT_EQ(Kernel()->Scene()->DrawingSurface()->Name(), QStringLiteral("second"));
+}
+
+TEST_F(SceneFile, stepsKeepTheirTitles)
+{
+    for (const char *title : {"One", "", "Three"}) {
+        NumberOperation operation(1);
+        Kernel()->DoOperation(&operation, false, false);
+        Kernel()->Undos().SetTitle(QString::fromUtf8(title));
+    }
+    const QString untitled = Kernel()->Undos().Steps().at(1).first().className;
+    save();
+    Kernel()->NewScene();
+    EXPECT_TRUE(openScene(read(QStringLiteral("a.orvane"))).isEmpty());
+    ASSERT_EQ(Kernel()->Undos().StepCount(), 3);
+    EXPECT_EQ(Kernel()->Undos().UndoText(), QStringLiteral("Three"));
+    EXPECT_EQ(Kernel()->Undos().Steps().at(1).first().title, QString());
+    EXPECT_EQ(Kernel()->Undos().Steps().at(1).first().className, untitled);
+    EXPECT_EQ(Kernel()->Undos().Steps().at(0).first().title, QStringLiteral("One"));
+}
+
+TEST_F(SceneFile, aSurfaceThatNobodyChoseStaysTheFirst)
+{
+    addToScene(cube(), QStringLiteral("first"));
+    addToScene(cube(), QStringLiteral("second"));
+    save();
+    openScene(read(QStringLiteral("a.orvane")));
+    EXPECT_EQ(Kernel()->Scene()->ChosenSurface(), 0);
+    EXPECT_EQ(Kernel()->Scene()->DrawingSurface()->Name(), QStringLiteral("first"));
 }
 
 TEST_F(SceneFile, aLaterNodeTakesANumberThatWasNeverGiven)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/desktop/document/autosave.h"
 #include "host/desktop/document/examplescene.h"
+#include "host/files/scenefile.h"
 #include "tests/host/desktop/document/documenttest.h"
 #include "tests/support/numberoperation.h"
 #include "tests/support/scenebytes.h"
@@ -113,6 +114,43 @@ TEST_F(AutosaveTest, theCopyGoesWhenTheWorkIsSavedOrGivenUp)
     EXPECT_TRUE(document.NewScene());
     EXPECT_FALSE(hasCopy());
     EXPECT_EQ(filesOfSessions().size(), 1) << "the lock";
+}
+
+TEST_F(AutosaveTest, aCopyThatIsStillBeingWrittenDoesNotComeBack)
+{
+    addToScene(sphere(60, 60));
+    int begun = 0;
+    for (int wait = 0; wait < 12 || begun == 0; ++wait) { // milliseconds
+        ASSERT_LT(wait, 1000) << "no copy was ever written";
+        step();
+        autosave.SetInterval(0);
+        waitInOperation(wait);
+        autosave.SetInterval(Patience);
+        begun += hasCopy();
+        save(QStringLiteral("a.orvane"));
+        EXPECT_FALSE(hasCopy());
+        waitInOperation(20);
+        EXPECT_FALSE(hasCopy());
+        EXPECT_LE(filesOfSessions().size(), 1) << "more than the lock";
+    }
+}
+
+TEST_F(AutosaveTest, whatChangesDuringTheWritingIsInTheNextCopy)
+{
+    addToScene(sphere(60, 60));
+    step();
+    QSignalSpy saved(&autosave, &Autosave::saved);
+    autosave.SetInterval(0);
+    EXPECT_TRUE(saved.wait(Patience));
+    step();
+    EXPECT_TRUE(saved.wait(Patience));
+    autosave.SetInterval(Patience);
+    const QByteArray copy = bytesOf(autosave.ScenePath());
+    QString why;
+    EXPECT_TRUE(writeScene(QStringLiteral("same.orvane"), &why)) << qPrintable(why);
+    EXPECT_TRUE(autosave.SaveNow());
+    EXPECT_EQ(bytesOf(autosave.ScenePath()), bytesOf(QStringLiteral("same.orvane")));
+    EXPECT_EQ(bytesOf(autosave.ScenePath()), copy);
 }
 
 TEST_F(AutosaveTest, aCleanExitLeavesNothing)
