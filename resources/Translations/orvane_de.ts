@@ -18,10 +18,6 @@
 <context>
     <name>CurveTools</name>
     <message>
-        <source>curve %1</source>
-        <translation>Kurve %1</translation>
-    </message>
-    <message>
         <source>There is such a curve already.</source>
         <translation>Eine solche Kurve gibt es schon.</translation>
     </message>
@@ -38,6 +34,13 @@
     <message>
         <source>Delete Geometry</source>
         <translation>Geometrie löschen</translation>
+    </message>
+</context>
+<context>
+    <name>DrawOnOperation</name>
+    <message>
+        <source>Choose Mesh to Draw On</source>
+        <translation>Zeichennetz wählen</translation>
     </message>
 </context>
 <context>
@@ -110,6 +113,14 @@
         <source>Home</source>
         <translation>Startseite</translation>
     </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>Alle Seiten durchsuchen</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>JoinTool</name>
@@ -154,6 +165,73 @@
     <message>
         <source>No loop closes around the mesh here.</source>
         <translation>Hier schließt sich keine Schleife um das Netz.</translation>
+    </message>
+</context>
+<context>
+    <name>MeshFault</name>
+    <message>
+        <source>high-valence vertex</source>
+        <translation>Eckpunkt mit zu vielen Kanten</translation>
+    </message>
+    <message>
+        <source>edge shared by more than two faces</source>
+        <translation>Kante an mehr als zwei Flächen</translation>
+    </message>
+    <message>
+        <source>vertex shared by separate fans of faces</source>
+        <translation>Eckpunkt an getrennten Fächern</translation>
+    </message>
+    <message>
+        <source>two-sided face</source>
+        <translation>Fläche mit zwei Kanten</translation>
+    </message>
+    <message>
+        <source>face of more than 16 sides</source>
+        <translation>Fläche mit mehr als 16 Seiten</translation>
+    </message>
+    <message>
+        <source>vertex of more than two boundary edges</source>
+        <translation>Eckpunkt mit mehr als zwei Randkanten</translation>
+    </message>
+    <message>
+        <source>interior vertex of valence two</source>
+        <translation>innerer Eckpunkt mit nur zwei Kanten</translation>
+    </message>
+    <message>
+        <source>zero-length edge</source>
+        <translation>Kante der Länge null</translation>
+    </message>
+    <message>
+        <source>lamina face</source>
+        <translation>deckungsgleiche Fläche</translation>
+    </message>
+    <message>
+        <source>face across a UV tile boundary</source>
+        <translation>Fläche über eine UV-Kachelgrenze</translation>
+    </message>
+    <message>
+        <source>face without UVs</source>
+        <translation>Fläche ohne UVs</translation>
+    </message>
+    <message>
+        <source>degenerate face</source>
+        <translation>entartete Fläche</translation>
+    </message>
+    <message>
+        <source>vertex %1</source>
+        <translation>Eckpunkt %1</translation>
+    </message>
+    <message>
+        <source>edge %1-%2</source>
+        <translation>Kante %1-%2</translation>
+    </message>
+    <message>
+        <source>polygon %1 (mesh face %2)</source>
+        <translation>Polygon %1 (Netzfläche %2)</translation>
+    </message>
+    <message>
+        <source>%1: %2, the first is %3</source>
+        <translation>%1: %2, zuerst %3</translation>
     </message>
 </context>
 <context>
@@ -297,6 +375,81 @@
     </message>
 </context>
 <context>
+    <name>UndoStep</name>
+    <message>
+        <source>Show Curves</source>
+        <translation>Kurven einblenden</translation>
+    </message>
+    <message>
+        <source>Hide Curves</source>
+        <translation>Kurven ausblenden</translation>
+    </message>
+    <message>
+        <source>Duplicate Curves</source>
+        <translation>Kurven duplizieren</translation>
+    </message>
+    <message>
+        <source>Mirror Curves</source>
+        <translation>Kurven spiegeln</translation>
+    </message>
+    <message>
+        <source>Close Curves</source>
+        <translation>Kurven schließen</translation>
+    </message>
+    <message>
+        <source>Open Curves</source>
+        <translation>Kurven öffnen</translation>
+    </message>
+    <message>
+        <source>Reverse Curves</source>
+        <translation>Kurven umkehren</translation>
+    </message>
+    <message>
+        <source>Space Evenly</source>
+        <translation>Gleichmäßig verteilen</translation>
+    </message>
+    <message>
+        <source>Smooth Curves</source>
+        <translation>Kurven glätten</translation>
+    </message>
+    <message>
+        <source>Join Curves</source>
+        <translation>Kurven verbinden</translation>
+    </message>
+    <message>
+        <source>Draw Stroke</source>
+        <translation>Strich zeichnen</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>Extend Curve</source>
+        <translation>Kurve verlängern</translation>
+    </message>
+    <message>
+        <source>Close Curve</source>
+        <translation>Kurve schließen</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Move Points</source>
+        <translation>Punkte verschieben</translation>
+    </message>
+    <message>
+        <source>Section Line</source>
+        <translation>Schnittlinie</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Glätten</translation>
+    </message>
+</context>
+<context>
     <name>orvane::AboutDialog</name>
     <message>
         <source>found</source>
@@ -357,16 +510,16 @@
         <translation>Befehlszeile</translation>
     </message>
     <message>
-        <source>&amp;Command:</source>
-        <translation>B&amp;efehl:</translation>
-    </message>
-    <message>
         <source>Macro...</source>
         <translation>Makro...</translation>
     </message>
     <message>
         <source>What was recorded, to save, edit and replay</source>
         <translation>Was aufgezeichnet wurde: zum Speichern, Bearbeiten und Wiedergeben</translation>
+    </message>
+    <message>
+        <source>C&amp;ommand:</source>
+        <translation>B&amp;efehl:</translation>
     </message>
 </context>
 <context>
@@ -472,10 +625,6 @@
         <translation>Die ausgewählten Kurven ausblenden; Werkzeuge lassen sie unberührt.</translation>
     </message>
     <message>
-        <source>Hide &amp;Others</source>
-        <translation>Üb&amp;rige ausblenden</translation>
-    </message>
-    <message>
         <source>Hide the curves that are not selected.</source>
         <translation>Die nicht ausgewählten Kurven ausblenden.</translation>
     </message>
@@ -486,6 +635,10 @@
     <message>
         <source>Show all curves.</source>
         <translation>Alle Kurven einblenden.</translation>
+    </message>
+    <message>
+        <source>Hide O&amp;thers</source>
+        <translation>Üb&amp;rige ausblenden</translation>
     </message>
 </context>
 <context>
@@ -578,10 +731,6 @@
         <translation>Die anderen Kurven auswählen.</translation>
     </message>
     <message>
-        <source>Re&amp;name</source>
-        <translation>U&amp;mbenennen</translation>
-    </message>
-    <message>
         <source>Rename what is current in the scene list.</source>
         <translation>Das aktuelle Objekt der Szenenliste umbenennen.</translation>
     </message>
@@ -616,6 +765,18 @@
     <message>
         <source>Done again: %1</source>
         <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>Nicht rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>Nicht wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me</source>
+        <translation>U&amp;mbenennen</translation>
     </message>
 </context>
 <context>
@@ -955,36 +1116,44 @@ Es gibt keine Seite für %1. %2</translation>
         <translation>Werkzeuge</translation>
     </message>
     <message>
-        <source>&amp;Command Line</source>
-        <translation>Befehls&amp;zeile</translation>
-    </message>
-    <message>
         <source>Type a command.</source>
         <translation>Einen Befehl eintippen.</translation>
-    </message>
-    <message>
-        <source>&amp;Macro...</source>
-        <translation>&amp;Makro...</translation>
     </message>
     <message>
         <source>What was recorded, to save, edit and replay.</source>
         <translation>Was aufgezeichnet wurde: zum Speichern, Bearbeiten und Wiedergeben.</translation>
     </message>
     <message>
-        <source>&amp;Log</source>
-        <translation>Pro&amp;tokoll</translation>
-    </message>
-    <message>
         <source>What was logged.</source>
         <translation>Was protokolliert wurde.</translation>
     </message>
     <message>
-        <source>Scene &amp;List</source>
+        <source>Take the keys to the scene list.</source>
+        <translation>Die Tastatureingabe in die Szenenliste setzen.</translation>
+    </message>
+    <message>
+        <source>Show the scene list and the numbers of the mesh.</source>
+        <translation>Die Szenenliste und die Zahlen des Netzes zeigen.</translation>
+    </message>
+    <message>
+        <source>Command Lin&amp;e</source>
+        <translation>Befehls&amp;zeile</translation>
+    </message>
+    <message>
+        <source>Mac&amp;ro...</source>
+        <translation>&amp;Makro...</translation>
+    </message>
+    <message>
+        <source>Lo&amp;g</source>
+        <translation>Pro&amp;tokoll</translation>
+    </message>
+    <message>
+        <source>Scene Lis&amp;t</source>
         <translation>Szenen&amp;liste</translation>
     </message>
     <message>
-        <source>Take the keys to the scene list.</source>
-        <translation>Die Tastatureingabe in die Szenenliste setzen.</translation>
+        <source>Scene Pa&amp;nel</source>
+        <translation>Sze&amp;nenbereich</translation>
     </message>
 </context>
 <context>
@@ -1482,10 +1651,6 @@ Es gibt keine Seite für %1. %2</translation>
         <translation>Die Punkte der Kurven zeigen.</translation>
     </message>
     <message>
-        <source>&amp;Grid</source>
-        <translation>Boden&amp;gitter</translation>
-    </message>
-    <message>
         <source>Show a grid on the ground.</source>
         <translation>Ein Gitter auf dem Boden zeigen.</translation>
     </message>
@@ -1512,6 +1677,10 @@ Es gibt keine Seite für %1. %2</translation>
     <message>
         <source>Show what is wrong with a mesh.</source>
         <translation>Zeigen, was an einem Netz nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>Gr&amp;id</source>
+        <translation>Boden&amp;gitter</translation>
     </message>
 </context>
 </TS>

@@ -126,6 +126,22 @@
         <source>no two curves cross</source>
         <translation>keine Kurven, die sich kreuzen</translation>
     </message>
+    <message>
+        <source>Crossings: %1.</source>
+        <translation>Kreuzungen: %1.</translation>
+    </message>
+    <message>
+        <source>Faces: %1.</source>
+        <translation>Flächen: %1.</translation>
+    </message>
+    <message>
+        <source>Holes: %1.</source>
+        <translation>Löcher: %1.</translation>
+    </message>
+    <message>
+        <source>Time: %1 s.</source>
+        <translation>Dauer: %1 s.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmesh</name>

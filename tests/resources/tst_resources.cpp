@@ -2,6 +2,7 @@
 // The pictures of the build's share/orvane against the names that the dialogs ask for.
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QRegularExpression>
@@ -15,10 +16,13 @@
 
 namespace {
 
-const int FaultPictures = 11;      // count: two of the twelve faults share one
-const double LeastOpaque = 0.15;   // fraction of a picture's pixels
+const int FaultPictures = 11;    // count: two of the twelve faults share one
+const double LeastOpaque = 0.15; // fraction of a picture's pixels
+const double LeastOpaqueIcon = 0.02;
 const int SeenDifference = 48;     // of 255, in one channel
 const double LeastDifferent = 0.1; // fraction of pixels, between the pictures of two faults
+const int LeastColours = 32;       // of a picture that shows something
+const int WidestInPage = 1400;     // pixels
 const double MostDifferent = 0.02; // fraction of pixels, between a picture and its double halved
 
 QString textOf(const QString &path)
@@ -126,6 +130,27 @@ void expectPicture(const QString &name, const QSize &size)
         EXPECT_EQ(qAlpha(image.pixel(corner)), 0) << corner.x() << ", " << corner.y();
 }
 
+// As Markdown shows them: ![what is seen](path).
+QStringList picturesInPage(const QString &page)
+{
+    const QRegularExpression shown(QStringLiteral("!\\[[^\\]]+\\]\\(([^)]+)\\)"));
+    QStringList paths;
+    auto match = shown.globalMatch(textOf(page));
+    while (match.hasNext())
+        paths.append(QFileInfo(page).dir().filePath(match.next().captured(1)));
+    return paths;
+}
+
+int colourCount(const QImage &image)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            colours.insert(image.pixel(x, y));
+    }
+    return colours.size();
+}
+
 } // namespace
 
 TEST(Resources, namedInTheCodeAreElevenFaultsThreeBadgesAndThreeSteps)
@@ -171,5 +196,36 @@ TEST(Resources, noTwoFaultsLookAlike)
             EXPECT_GE(differentFraction(a, b), LeastDifferent)
                 << qPrintable(names[i] + QLatin1Char(' ') + names[j]);
         }
+    }
+}
+
+TEST(Resources, eachIconOfTheDesktopIsThereInBothSizes)
+{
+    const QStringList sources =
+        QDir(QStringLiteral(QUILLMESH_ICONS_DIR "/desktop")).entryList({QStringLiteral("*.svg")});
+    EXPECT_GE(sources.size(), 16);
+    for (const QString &source : sources) {
+        const QString icon = QFileInfo(source).completeBaseName();
+        SCOPED_TRACE(qPrintable(icon));
+        const QString name = QStringLiteral("Icons/desktop/%1.png").arg(icon);
+        const int side = icon == QLatin1String("orvane") ? 64 : 24;
+        for (const int ratio : {1, 2}) {
+            const QImage image = pictureOf(ratio == 2 ? doubled(name) : name);
+            ASSERT_EQ(image.size(), QSize(side, side) * ratio);
+            EXPECT_GE(opaqueFraction(image), LeastOpaqueIcon);
+        }
+    }
+}
+
+TEST(Resources, eachPictureOfTheUserGuideIsThereAndShowsSomething)
+{
+    const QStringList paths = picturesInPage(QStringLiteral(QUILLMESH_DOCS_DIR "/userguide.md"));
+    EXPECT_GE(paths.filter(QStringLiteral("pictures/tools/")).size(), 14);
+    for (const QString &path : paths) {
+        SCOPED_TRACE(qPrintable(path));
+        const QImage image(path);
+        ASSERT_FALSE(image.isNull());
+        EXPECT_LE(image.width(), WidestInPage);
+        EXPECT_GE(colourCount(image), LeastColours);
     }
 }

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QScrollArea>
 #include <QStyleFactory>
 #include <QTextBrowser>
 
@@ -89,6 +90,18 @@ void addHelpPage(const Album &album)
     }
 }
 
+// Every row at once, with no need to scroll.
+void addWholeFaults(const Album &album)
+{
+    ValidateMeshFeedbackmDialog dialog(nullptr, QStringLiteral("Body-Retopo"), AllFaults);
+    const auto *list = dialog.findChild<QScrollArea *>();
+    dialog.show();
+    const int width = list->viewport()->width();
+    const int others = dialog.height() - list->viewport()->height();
+    dialog.resize(dialog.width(), others + list->widget()->heightForWidth(width));
+    album.add(dialog, QStringLiteral("faults-whole"));
+}
+
 void addAll(const Album &album)
 {
     for (const bool testMode : {false, true}) {
@@ -104,6 +117,7 @@ void addAll(const Album &album)
         album.add(dialog, faults == AllFaults ? QStringLiteral("faults-all")
                                               : QStringLiteral("faults-three"));
     }
+    addWholeFaults(album);
     addHelpPage(album);
 }
 

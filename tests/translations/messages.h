@@ -22,7 +22,7 @@ QString messageFolder();
 QStringList messageFiles();
 //! Every message of a file, obsolete ones too; the test stops when it cannot be read.
 QVector<Message> messagesOf(const QString &path);
-//! Those of both files of a language.
+//! Those of all files of a language.
 QVector<Message> messagesIn(const QString &language);
 QStringList keysOf(const QVector<Message> &messages);
 //! The translation of just this text; the test stops when there is none.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/translations/shown.h"
 
+#include "tests/translations/widgettexts.h"
 #include "ui/manualretopodialog.h"
 #include "ui/retopologyhelpdialog.h"
 #include "ui/validatemeshfeedbackmdialog.h"
@@ -8,32 +9,12 @@
 #include <orvane/kernel/kernel.h>
 #include <orvane/widgets/helpviewer.h>
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QTextBrowser>
+#include <QLineEdit>
 
 namespace {
 
 const int AllFaults = 0xf0f0f;
-
-QSet<QString> textsOf(const QWidget *widget)
-{
-    QSet<QString> texts{widget->windowTitle(), widget->toolTip()};
-    if (const auto *label = qobject_cast<const QLabel *>(widget))
-        texts.insert(label->text());
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        texts.insert(button->text());
-    if (const auto *page = qobject_cast<const QTextBrowser *>(widget))
-        texts.insert(page->toPlainText());
-    if (const auto *choices = qobject_cast<const QComboBox *>(widget)) {
-        for (int i = 0; i < choices->count(); ++i)
-            texts.insert(choices->itemText(i));
-    }
-    return texts;
-}
 
 // Notes which widgets there were before; those that are not shown yet have no parent to ask.
 class NewWidgets
@@ -44,9 +25,8 @@ public:
         QSet<QString> all;
         for (const QWidget *widget : QApplication::allWidgets()) {
             if (!m_before.contains(widget))
-                all += textsOf(widget);
+                all += textsOf(*widget);
         }
-        all.remove(QString());
         return all;
     }
 
@@ -91,8 +71,14 @@ QSet<QString> textsOfMissingPage(const QString &identifier)
 {
     const NewWidgets widgets;
     orvane::showHelp(identifier);
-    QSet<QString> texts = widgets.texts();
     const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (auto *search = window->findChild<QLineEdit *>(QStringLiteral("helpSearch"))) {
+            search->setText(QStringLiteral("a text of no page"));
+            QMetaObject::invokeMethod(search, "returnPressed");
+        }
+    }
+    const QSet<QString> texts = widgets.texts();
     for (QWidget *window : windows) {
         if (window->objectName() == QLatin1String("HelpViewer"))
             delete window; // the next one is made in the language of its time

@@ -11,5 +11,6 @@ QSet<QString> textsOfSettings();
 QSet<QString> textsOfHelp();
 //! With a row for every fault.
 QSet<QString> textsOfFaults(const QString &meshName);
-//! The host's help window, for a page that there is not, or that is refused.
+//! The host's help window, for a page that there is not, or that is refused, and after a search in
+//! vain.
 QSet<QString> textsOfMissingPage(const QString &identifier);

@@ -4,11 +4,8 @@
 #include "tests/plugin/toolscene.h"
 #include "tests/support/workingfolder.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QMap>
-#include <QStringList>
-#include <QTranslator>
 
 namespace orvane {
 class Operation;
@@ -26,7 +23,9 @@ protected:
 
     //! What people read when no mesh can be made, by what they read of the reason in English.
     QMap<QString, QString> failures();
-    //! The same for a geometry that cannot be moved.
+    //! What they read when there is one, of a net with a hole.
+    QString summary();
+    //! What they read when a geometry cannot be moved.
     QString failedTransformation();
     //! What they read when there is nothing to make a mesh of.
     QString missingCurves();
@@ -41,21 +40,4 @@ private:
 
     WorkingFolder m_folder; // without pictures and help pages
     QLocale m_locale;
-};
-
-//! Notes what the program asks the translations for during its life, and translates nothing.
-class AskedTexts : public QTranslator
-{
-public:
-    AskedTexts() { QCoreApplication::installTranslator(this); }
-    ~AskedTexts() override { QCoreApplication::removeTranslator(this); }
-
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override;
-
-    //! "context: text" each.
-    const QStringList &keys() const { return m_keys; }
-
-private:
-    mutable QStringList m_keys;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What people read of the tool and its host in German, and in English again.
 #include "operation/manualretopooperation.h"
+#include "tests/translations/askedtexts.h"
 #include "tests/translations/messages.h"
 #include "tests/translations/shown.h"
 #include "tests/translations/spokentool.h"
@@ -11,6 +12,7 @@
 #include <orvane/kernel/plugin.h>
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -64,6 +66,7 @@ protected:
         textsOfMissingPage(QStringLiteral("Nowhere"));
         textsOfMissingPage(QStringLiteral("../Nowhere"));
         failures();
+        summary();
         failedTransformation();
         missingCurves();
         for (const QString &operation : operations())
@@ -257,10 +260,21 @@ TEST_F(GermanTool, saysInGermanWhyNoMeshWasMade)
         EXPECT_EQ(text.value(), QStringLiteral("Nothing was made: ") + text.key());
 }
 
+TEST_F(GermanTool, saysInGermanWhatWasMade)
+{
+    speak("de");
+    const QString sentence =
+        QStringLiteral("^Kreuzungen: \\d+\\. Flächen: 4\\. Löcher: 1\\. Dauer: [\\d.]+ s\\.$");
+    const QString text = summary();
+    EXPECT_TRUE(QRegularExpression(sentence).match(text).hasMatch()) << qPrintable(text);
+    speak("en");
+    EXPECT_TRUE(summary().startsWith(QStringLiteral("Crossings: ")));
+}
+
 TEST_F(GermanTool, namesEveryStepOfTheEditMenuInGerman)
 {
     const QStringList names = operations();
-    EXPECT_EQ(names.size(), 13);
+    EXPECT_EQ(names.size(), 14);
     for (const QString &name : names) {
         speak("en");
         const QString english = undoText(name);

@@ -103,6 +103,14 @@ QString trailingBlanks(const QString &text)
     return found(QStringLiteral("\\s*\\z"), text).value(0);
 }
 
+// Places where & marks a key; in rich text it begins something else.
+int keyMarks(QString text)
+{
+    if (Qt::mightBeRichText(text))
+        return 0;
+    return text.remove(QStringLiteral("&&")).count(QLatin1Char('&'));
+}
+
 // The operations that say in the sources what they are called in menus.
 QStringList operationsInSources()
 {
@@ -124,11 +132,11 @@ QStringList operationsInSources()
 
 } // namespace
 
-TEST(Messages, areThereForHostAndToolInGermanAndForTheToolInEnglish)
+TEST(Messages, areThereForHostToolAndQtInGermanAndForTheToolInEnglish)
 {
     EXPECT_EQ(messageFiles().filter(QRegularExpression(QStringLiteral("_(de|en)\\.ts$"))),
-              (QStringList{QStringLiteral("orvane_de.ts"), QStringLiteral("quillmesh_de.ts"),
-                           QStringLiteral("quillmesh_en.ts")}));
+              (QStringList{QStringLiteral("orvane_de.ts"), QStringLiteral("qt_de.ts"),
+                           QStringLiteral("quillmesh_de.ts"), QStringLiteral("quillmesh_en.ts")}));
 }
 
 TEST_F(UpdatedCopy, isTheSameAsTheOriginal)
@@ -191,6 +199,40 @@ TEST(Messages, keepPlaceholdersTagsAndBlanksInTranslation)
             EXPECT_EQ(to.count(QLatin1String("\n\n")), from.count(QLatin1String("\n\n")));
         }
     }
+}
+
+TEST(Messages, keepAKeyWhereTheTextHasOne)
+{
+    int marked = 0;
+    for (const QString &file : messageFiles()) {
+        for (const Message &message : messagesOf(QDir(messageFolder()).filePath(file))) {
+            EXPECT_EQ(keyMarks(message.translation), keyMarks(message.source))
+                << qPrintable(file + QLatin1Char(' ') + message.key());
+            marked += keyMarks(message.source);
+        }
+    }
+    EXPECT_GT(marked, 60);
+}
+
+TEST(Messages, inGermanAreOtherThanInEnglishUnlessMeantSo)
+{
+    // Names, letters, units, and words that both languages have.
+    const QSet<QString> same{
+        QStringLiteral("+"),           QStringLiteral(" s"),       QStringLiteral("X"),
+        QStringLiteral("Y"),           QStringLiteral("Z"),        QStringLiteral("F%1"),
+        QStringLiteral("Alt"),         QStringLiteral("Enter"),    QStringLiteral("Esc"),
+        QStringLiteral("Meta"),        QStringLiteral("Num"),      QStringLiteral("Pause"),
+        QStringLiteral("Tab"),         QStringLiteral("Computer"), QStringLiteral("Name"),
+        QStringLiteral("OK"),          QStringLiteral("Plug-ins"), QStringLiteral("Navigation"),
+        QStringLiteral("Lasso"),       QStringLiteral("Clay"),     QStringLiteral("&Clay"),
+        QStringLiteral("&Navigation:")};
+    QSet<QString> found;
+    for (const Message &message : messagesIn(QStringLiteral("de"))) {
+        if (message.translation == message.source)
+            found.insert(message.source);
+    }
+    EXPECT_EQ(found, same) << qPrintable((found - same).values().join(QLatin1Char('|'))) << " or "
+                           << qPrintable((same - found).values().join(QLatin1Char('|')));
 }
 
 TEST(Messages, inGermanUseGermanQuotationMarksInPairs)
