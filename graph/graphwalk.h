@@ -1,27 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graph/intersectionnode.h"
+#include "graph/nodemarks.h"
 
-#include <QSet>
 #include <QVector>
 
 //! Visits each node that can be reached from start once, depth first: the neighbour pushed last,
 //! so the last of its list, comes next. A node with fewer neighbours than minimumDegree is neither
 //! visited nor passed through. The visitor may reorder the neighbours of the node it is given,
-//! and they are followed in the new order. A null start visits nothing.
+//! and they are followed in the new order; it must not walk the same graph itself. A null start
+//! visits nothing.
 template <typename Visitor>
 void walkGraph(IntersectionNode *start, int minimumDegree, Visitor visit)
 {
     QVector<IntersectionNode *> stack{start};
-    QSet<IntersectionNode *> visited;
+    NodeMarks visited;
     while (!stack.isEmpty()) {
         IntersectionNode *node = stack.takeLast();
-        if (!node || node->neighbourCount() < minimumDegree || visited.contains(node))
+        if (!node || node->neighbourCount() < minimumDegree || visited.has(node))
             continue;
-        visited.insert(node);
+        visited.set(node);
         visit(node);
-        for (IntersectionNode *neighbour : qAsConst(node->neighbours))
-            stack.append(neighbour);
+        for (IntersectionNode *neighbour : qAsConst(node->neighbours)) {
+            if (neighbour && !visited.has(neighbour))
+                stack.append(neighbour);
+        }
     }
 }

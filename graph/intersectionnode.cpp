@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "graph/intersectionnode.h"
 
+#include <atomic>
+
+quint64 IntersectionNode::takeMarks(quint64 count)
+{
+    static std::atomic<quint64> next{1}; // a new node bears 0
+    return next.fetch_add(count);
+}
+
 IntersectionNode::~IntersectionNode() = default;
 
 void IntersectionNode::setSample(const NodeSample &sample)
@@ -8,11 +16,6 @@ void IntersectionNode::setSample(const NodeSample &sample)
     curvePoint = sample.curvePoint;
     normal = sample.normal;
     vertexIndex = sample.vertexIndex;
-}
-
-int IntersectionNode::indexOfNeighbour(const IntersectionNode *node) const
-{
-    return neighbours.indexOf(const_cast<IntersectionNode *>(node));
 }
 
 bool IntersectionNode::addNeighbour(IntersectionNode *node)
@@ -54,10 +57,9 @@ bool IntersectionNode::merge(IntersectionNode *other)
 {
     if (!other)
         return false;
-    const QList<IntersectionNode *> theirs = other->neighbours; // linking back edits their lists
-    for (IntersectionNode *node : theirs) {
-        if (node)
-            addNeighbour(node);
+    for (int i = 0; i < other->neighbourCount(); ++i) {
+        if (other->neighbours[i])
+            addNeighbour(other->neighbours[i]);
     }
     for (orvane::OrvaneCurve *curve : qAsConst(other->curves))
         addCurve(curve);

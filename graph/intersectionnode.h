@@ -2,10 +2,9 @@
 #pragma once
 
 #include "graph/export.h"
+#include "graph/shortlist.h"
 
 #include <orvane/geometry/curvepoint.h>
-
-#include <QList>
 
 namespace orvane {
 class OrvaneCurve;
@@ -39,7 +38,10 @@ public:
     //! Null when out of range.
     IntersectionNode *neighbour(int i) const { return neighbours.value(i); }
     //! -1 when absent.
-    int indexOfNeighbour(const IntersectionNode *node) const;
+    int indexOfNeighbour(const IntersectionNode *node) const
+    {
+        return neighbours.indexOf(const_cast<IntersectionNode *>(node));
+    }
     bool hasNeighbour(const IntersectionNode *node) const { return indexOfNeighbour(node) >= 0; }
     //! Links both ways. False for null and for this node; true for a link that stood already.
     bool addNeighbour(IntersectionNode *node);
@@ -66,11 +68,21 @@ public:
     bool removeCurveAt(int i);
     bool removeCurve(orvane::OrvaneCurve *curve);
 
-    QList<IntersectionNode *> neighbours; // in order of linking until sorted by angle
-    QList<orvane::OrvaneCurve *> curves;  // each once
+    ShortList<IntersectionNode *, 4> neighbours; // in order of linking until sorted by angle
+    ShortList<orvane::OrvaneCurve *, 2> curves;  // each once
     orvane::CurvePoint curvePoint;
-    orvane::Vector normal;    // of the surface; zero = not known
-    int vertexIndex = -1;     // in the output mesh; -1 until tracing numbers it
-    QList<bool> incomingUsed; // by neighbour: the edge from there to here has been arrived along
-    QList<bool> outgoingUsed; // by neighbour: the edge from here to there belongs to a face or walk
+    orvane::Vector normal; // of the surface; zero = not known
+    int vertexIndex = -1;  // in the output mesh; -1 until tracing numbers it
+    // By neighbour: the edge from there to here has been arrived along; the edge from here to there
+    // belongs to a face or to the walk in progress.
+    ShortList<bool, 8> incomingUsed;
+    ShortList<bool, 8> outgoingUsed;
+
+private:
+    friend class NodeMarks;
+
+    //! The first of so many numbers in a row that no node bears; later calls answer higher ones.
+    static quint64 takeMarks(quint64 count);
+
+    quint64 m_mark = 0; // see graph/nodemarks.h
 };

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "graph/intersectionsearch.h"
 
-#include "graph/curverecord.h"
-#include "graph/curvesampling.h"
+#include "graph/crossingbatch.h"
+#include "graph/curverecords.h"
 #include "graph/nearmisses.h"
 #include "graph/nodestore.h"
-#include "graph/segmentcrossing.h"
+#include "graph/sampledcurves.h"
+#include "graph/sortedboxes.h"
 
 #include <orvane/base/timer.h>
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/kernel/interface.h>
 #include <orvane/kernel/kernel.h>
+
+#include <numeric>
 
 using orvane::AxisAlignedBoundingBox;
 using orvane::CurvePoint;
@@ -21,23 +24,24 @@ namespace {
 
 const float MinimumNormal = 1e-5f; // squared length below which a sum of normals has no direction
 
-// One curve as the search sees it.
-struct SampledCurve
+const int NodesAhead = 6;
+
+// The nodes along a curve lie far apart in memory: asked for early, they are there when needed.
+void prefetch(const IntersectionNode *node)
 {
-    int segmentCount() const { return boxes.size(); }
+#ifdef __GNUC__
+    __builtin_prefetch(&node->neighbours, 1);
+    __builtin_prefetch(&node->outgoingUsed, 1);
+#else
+    Q_UNUSED(node)
+#endif
+}
 
-    QList<CurvePoint> samples;
-    QVector<Vector> positions;             // by sample
-    QVector<AxisAlignedBoundingBox> boxes; // by segment, grown and snapped
-    AxisAlignedBoundingBox box;            // of all samples, grown and snapped
-};
-
+// Two segments whose boxes overlap.
 struct SegmentPair
 {
-    int curveA;
-    int segmentA;
-    int curveB;
-    int segmentB;
+    int a;
+    int b;
 };
 
 class IntersectionSearch
@@ -45,29 +49,47 @@ class IntersectionSearch
 public:
     IntersectionSearch(const QList<OrvaneCurve *> &curves, QList<IntersectionNode *> &nodes,
                        float distance)
-        : m_curves(curves), m_nodes(nodes), m_distance(distance)
+        : m_curves(curves), m_nodes(nodes), m_firstNode(nodes.size()), m_sampled(curves, distance)
     {}
 
     void sampleCurves(float overrun);
     void findSelfIntersections();
     void findCrossIntersections();
     void linkAlongCurves();
-    QVector<PointOnCurve> pointsOnCurves() const { return m_nearMisses.unresolved(m_records); }
+    QVector<PointOnCurve> pointsOnCurves() const { return m_nearMisses.unresolved(m_crossings); }
 
 private:
-    void makeBoxes(SampledCurve &curve) const;
-    void searchSegment(int k, int i, int l);
-    void testPair(const SegmentPair &pair);
-    void addNode(const SegmentPair &pair, const Vector &place, float ta, float tb);
+    QVector<int> runsOthersMeet() const;
+    void searchRun(int run, int firstOther, const SortedBoxes &others);
+    void searchSegment(int segment);
+    void addPair(const SegmentPair &pair);
+    void testPairs();
+    void addNode(const SegmentPair &pair, const crossinglane::Answer &answer);
+    void addNearMiss(const SegmentPair &pair, const crossinglane::Answer &answer);
+    Crossing crossingOf(const SegmentPair &pair, const crossinglane::Answer &answer) const;
+    IntersectionNode *nodeOf(const CurveRecords &records, int curve, int i) const;
 
     const QList<OrvaneCurve *> &m_curves;
     QList<IntersectionNode *> &m_nodes;
-    float m_distance;
-    QVector<SampledCurve> m_sampled;
-    QVector<bool> m_closed;
-    QVector<CurveRecord> m_records;
+    int m_firstNode; // of this search
+    SampledCurves m_sampled;
+    QVector<Crossing> m_crossings; // by node
     NearMisses m_nearMisses;
+
+    QVector<int> m_nearRuns; // those that the run being searched may meet, ascending
+    BoxList m_nearBoxes;     // theirs
+    QVector<int> m_runHits;  // of a segment: indices into m_nearRuns
+    QVector<int> m_hits;     // of a segment: the segments that it may cross
+
+    CrossingBatch m_batch;
+    SegmentPair m_pairs[CrossingBatch::Capacity]; // those in the batch
 };
+
+void normalizeUnlessZero(Vector &sum)
+{
+    if (sum.LengthSquared() > MinimumNormal)
+        sum.Normalize();
+}
 
 orvane::Interface *hostInterface()
 {
@@ -77,61 +99,32 @@ orvane::Interface *hostInterface()
 void IntersectionSearch::sampleCurves(float overrun)
 {
     hostInterface()->ProgressStart(QStringLiteral("sample curves..."), m_curves.size(), 1.0, 0);
-    m_sampled.resize(m_curves.size());
-    m_closed.fill(false, m_curves.size());
-    m_records.resize(m_curves.size());
     for (int k = 0; k < m_curves.size(); ++k) {
-        if (!m_curves[k])
-            continue;
-        SampledCurve &curve = m_sampled[k];
-        sampleCurve(*m_curves[k], curve.samples, overrun);
-        m_closed[k] = m_curves[k]->Closed();
-        makeBoxes(curve);
-        hostInterface()->ProgressSet(k);
+        m_sampled.sample(k, overrun);
+        if (m_curves[k])
+            hostInterface()->ProgressSet(k);
     }
+    m_sampled.makeRuns();
     hostInterface()->ProgressEnd();
-}
-
-void IntersectionSearch::makeBoxes(SampledCurve &curve) const
-{
-    const int count = curve.samples.size();
-    curve.positions.reserve(count);
-    AxisAlignedBoundingBox whole;
-    for (const CurvePoint &sample : qAsConst(curve.samples)) {
-        curve.positions.append(samplePosition(sample));
-        whole.Extend(curve.positions.last());
-    }
-    whole.Grow(m_distance);
-    curve.box = snappedBox(whole);
-    curve.boxes.reserve(qMax(0, count - 1));
-    for (int i = 0; i + 1 < count; ++i) {
-        AxisAlignedBoundingBox box;
-        box.Extend(curve.positions[i]);
-        box.Extend(curve.positions[i + 1]);
-        box.Grow(m_distance);
-        curve.boxes.append(snappedBox(box));
-    }
 }
 
 void IntersectionSearch::findSelfIntersections()
 {
-    qint64 samples = 0;
-    for (const SampledCurve &curve : qAsConst(m_sampled))
-        samples += curve.samples.size();
+    const qint64 samples = m_sampled.sampleCount();
     hostInterface()->ProgressStart(QStringLiteral("self intersections..."), samples * samples, 1.0,
                                    0);
-    qint64 done = 0;
-    for (int k = 0; k < m_sampled.size(); ++k) {
-        const SampledCurve &curve = m_sampled[k];
-        for (int i = 0; i < curve.segmentCount(); ++i) {
-            for (int j = i + 2; j < curve.segmentCount(); ++j) {
-                if (snappedBoxesOverlap(curve.boxes[i], curve.boxes[j]))
-                    testPair({k, i, k, j});
-            }
-            hostInterface()->ProgressSet((done + i) * samples);
+    SortedBoxes own;
+    QVector<int> runs;
+    for (const SampledCurve &curve : m_sampled.curves()) {
+        runs.resize(curve.lastRun - curve.firstRun);
+        std::iota(runs.begin(), runs.end(), curve.firstRun);
+        own.assign(m_sampled.runBoxes(), runs);
+        for (int run : qAsConst(runs)) {
+            searchRun(run, run, own);
+            hostInterface()->ProgressSet(m_sampled.runs()[run].last * samples);
         }
-        done += curve.samples.size();
     }
+    testPairs();
     hostInterface()->ProgressEnd();
 }
 
@@ -139,69 +132,133 @@ void IntersectionSearch::findCrossIntersections()
 {
     hostInterface()->ProgressStart(QStringLiteral("cross intersections..."), m_curves.size(), 1.0,
                                    0);
-    for (int k = 0; k < m_sampled.size(); ++k) {
-        for (int i = 0; i < m_sampled[k].segmentCount(); ++i) {
-            for (int l = k + 1; l < m_sampled.size(); ++l)
-                searchSegment(k, i, l);
-        }
+    SortedBoxes others;
+    others.assign(m_sampled.runBoxes(), runsOthersMeet());
+    for (int k = 0; k < m_curves.size(); ++k) {
+        const SampledCurve &curve = m_sampled.curves()[k];
+        for (int run = curve.firstRun; run < curve.lastRun; ++run)
+            searchRun(run, curve.lastRun, others);
         hostInterface()->ProgressSet(k);
     }
+    testPairs();
     hostInterface()->ProgressEnd();
 }
 
-void IntersectionSearch::searchSegment(int k, int i, int l)
+QVector<int> IntersectionSearch::runsOthersMeet() const
 {
-    const AxisAlignedBoundingBox &box = m_sampled[k].boxes[i];
-    const SampledCurve &other = m_sampled[l];
-    if (!snappedBoxesOverlap(other.box, box))
+    QVector<int> runs;
+    for (const SampledCurve &curve : m_sampled.curves()) {
+        for (int run = curve.firstRun; curve.isNumber && run < curve.lastRun; ++run)
+            runs.append(run);
+    }
+    return runs;
+}
+
+// Each level asks the same of a shorter list: all runs against this one, those left against each
+// of its segments, and their segments against it. The lists ascend, so pairs come in order.
+void IntersectionSearch::searchRun(int number, int firstOther, const SortedBoxes &others)
+{
+    others.overlapping(m_sampled.runBoxes().at(number), firstOther, m_nearRuns);
+    if (m_nearRuns.isEmpty())
         return;
-    const AxisAlignedBoundingBox *boxes = other.boxes.constData();
-    for (int j = 0; j < other.segmentCount(); ++j) {
-        if (snappedBoxesOverlap(box, boxes[j]))
-            testPair({k, i, l, j});
+    const int count = m_nearRuns.size();
+    if (m_nearBoxes.size() < count) {
+        m_nearBoxes.resize(count);
+        m_runHits.resize(count + BoxLanes);
+        m_hits.resize(count * RunLength + BoxLanes);
     }
+    for (int i = 0; i < count; ++i)
+        m_nearBoxes.set(i, m_sampled.runBoxes().at(m_nearRuns[i]));
+    const SegmentRun &run = m_sampled.runs()[number];
+    for (int segment = run.first; segment < run.last; ++segment)
+        searchSegment(segment);
 }
 
-void IntersectionSearch::testPair(const SegmentPair &pair)
+void IntersectionSearch::searchSegment(int segment)
 {
-    const Vector *a = m_sampled[pair.curveA].positions.constData() + pair.segmentA;
-    const Vector *b = m_sampled[pair.curveB].positions.constData() + pair.segmentB;
-    Vector place;
-    float ta = 0.0f;
-    float tb = 0.0f;
-    if (segmentsCross(a[0], a[1], b[0], b[1], place, ta, tb)) {
-        addNode(pair, place, ta, tb);
-    } else if (NearMisses::isOnEnd(ta, tb)) {
-        m_nearMisses.note(pair.curveA, float(pair.segmentA) + ta, pair.curveB,
-                          float(pair.segmentB) + tb, a[0] + (a[1] - a[0]) * ta);
+    const BoxList &boxes = m_sampled.segmentBoxes();
+    const AxisAlignedBoundingBox box = boxes.at(segment);
+    const int runs = m_nearBoxes.overlapping(0, m_nearRuns.size(), box, m_runHits.data());
+    int *hits = m_hits.data();
+    for (int i = 0; i < runs; ++i) {
+        const SegmentRun &other = m_sampled.runs()[m_nearRuns[m_runHits[i]]];
+        // On the same curve the next segment, which shares a sample, is left out.
+        const int first = qMax(other.first, segment + 2);
+        hits += boxes.overlapping(first, other.last, box, hits);
     }
+    for (const int *hit = m_hits.constData(); hit < hits; ++hit)
+        addPair({segment, *hit});
 }
 
-void IntersectionSearch::addNode(const SegmentPair &pair, const Vector &place, float ta, float tb)
+void IntersectionSearch::addPair(const SegmentPair &pair)
 {
-    const QList<CurvePoint> &a = m_sampled[pair.curveA].samples;
-    const QList<CurvePoint> &b = m_sampled[pair.curveB].samples;
+    m_pairs[m_batch.size()] = pair;
+    m_batch.add(m_sampled.segment(pair.a), m_sampled.segment(pair.b));
+    if (m_batch.size() == CrossingBatch::Capacity)
+        testPairs();
+}
+
+void IntersectionSearch::testPairs()
+{
+    m_batch.test();
+    for (int i = 0; i < m_batch.size(); ++i) {
+        const crossinglane::Answer answer = m_batch.answer(i);
+        if (answer.isCrossing())
+            addNode(m_pairs[i], answer);
+        else if (NearMisses::isOnEnd(answer.ta, answer.tb))
+            addNearMiss(m_pairs[i], answer);
+    }
+    m_batch.clear();
+}
+
+void IntersectionSearch::addNearMiss(const SegmentPair &pair, const crossinglane::Answer &answer)
+{
+    const Vector *a = m_sampled.segment(pair.a);
+    m_nearMisses.note(crossingOf(pair, answer), a[0] + (a[1] - a[0]) * answer.ta);
+}
+
+Crossing IntersectionSearch::crossingOf(const SegmentPair &pair,
+                                        const crossinglane::Answer &answer) const
+{
+    const int curveA = m_sampled.curveOf(pair.a);
+    const int curveB = m_sampled.curveOf(pair.b);
+    const int startA = m_sampled.curves()[curveA].firstSample;
+    const int startB = m_sampled.curves()[curveB].firstSample;
+    return {curveA, float(pair.a - startA) + answer.ta, curveB, float(pair.b - startB) + answer.tb};
+}
+
+void IntersectionSearch::addNode(const SegmentPair &pair, const crossinglane::Answer &answer)
+{
+    const Crossing crossing = crossingOf(pair, answer);
+    m_crossings.append(crossing);
     NodeSample sample;
-    sample.curvePoint.position = place;
-    sample.normal = crossingNormal(a[pair.segmentA], a[pair.segmentA + 1], b[pair.segmentB],
-                                   b[pair.segmentB + 1]);
+    sample.curvePoint.position = answer.place;
+    for (int end : {pair.a, pair.a + 1, pair.b, pair.b + 1})
+        sample.normal += m_sampled.normal(end);
+    normalizeUnlessZero(sample.normal);
     auto *node = new IntersectionNode(sample); // owned by the node store
     NodeStore::instance().own(node);
-    node->addCurve(m_curves[pair.curveA]);
-    node->addCurve(m_curves[pair.curveB]);
+    node->addCurve(m_curves[crossing.curveA]);
+    node->addCurve(m_curves[crossing.curveB]);
     m_nodes.append(node);
-    m_records[pair.curveA].insert(float(pair.segmentA) + ta, node);
-    m_records[pair.curveB].insert(float(pair.segmentB) + tb, node);
+}
+
+IntersectionNode *IntersectionSearch::nodeOf(const CurveRecords &records, int curve, int i) const
+{
+    return m_nodes[m_firstNode + records.crossing(curve, i)];
 }
 
 void IntersectionSearch::linkAlongCurves()
 {
-    for (int k = 0; k < m_records.size(); ++k) {
-        const QVector<IntersectionNode *> &nodes = m_records[k].nodes();
-        for (int i = 0; i + 1 < nodes.size(); ++i)
-            nodes[i]->addNeighbour(nodes[i + 1]);
-        if (m_closed[k] && nodes.size() > 1)
-            nodes.last()->addNeighbour(nodes.first());
+    const CurveRecords records(m_curves.size(), m_crossings);
+    for (int k = 0; k < m_curves.size(); ++k) {
+        const int last = records.size(k) - 1;
+        for (int i = 0; i < last; ++i) {
+            prefetch(nodeOf(records, k, qMin(i + NodesAhead, last)));
+            nodeOf(records, k, i)->addNeighbour(nodeOf(records, k, i + 1));
+        }
+        if (m_sampled.curves()[k].isClosed && last > 0)
+            nodeOf(records, k, last)->addNeighbour(nodeOf(records, k, 0));
     }
 }
 
@@ -256,7 +313,6 @@ Vector crossingNormal(const CurvePoint &p, const CurvePoint &q, const CurvePoint
     Vector sum;
     for (const CurvePoint *sample : {&p, &q, &r, &s})
         sum += sample->surfacePoint.WorldNormal(); // zero off any valid face
-    if (sum.LengthSquared() > MinimumNormal)
-        sum.Normalize();
+    normalizeUnlessZero(sum);
     return sum;
 }

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graph/nearmisses.h"
 
-#include "graph/intersectionnode.h"
+#include "graph/crossingtable.h"
 
-#include <QHash>
-#include <QPair>
-
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -29,9 +25,26 @@ bool isSameParameter(float a, float b)
     return std::fabs(a - b) <= SamePlaceWidth;
 }
 
-QVector<IntersectionNode *> nodesNear(const CurveRecord &record, float parameter)
+bool isOfSameCurves(const Crossing &a, const Crossing &b)
 {
-    return record.nodesBetween(parameter - SamePlaceWidth, parameter + SamePlaceWidth);
+    return a.curveA == b.curveA && a.curveB == b.curveB;
+}
+
+bool isSamePlace(const Crossing &a, const Crossing &b)
+{
+    return isOfSameCurves(a, b) && isSameParameter(a.parameterA, b.parameterA)
+           && isSameParameter(a.parameterB, b.parameterB);
+}
+
+bool isNextTo(float parameter, float meeting)
+{
+    return meeting - SamePlaceWidth <= parameter && parameter <= meeting + SamePlaceWidth;
+}
+
+bool makesUpFor(const Crossing &crossing, const Crossing &meeting)
+{
+    return isOfSameCurves(crossing, meeting) && isNextTo(crossing.parameterA, meeting.parameterA)
+           && isNextTo(crossing.parameterB, meeting.parameterB);
 }
 
 } // namespace
@@ -41,30 +54,36 @@ bool NearMisses::isOnEnd(float ta, float tb)
     return isOnSegment(ta) && isOnSegment(tb) && (isNearEnd(ta) || isNearEnd(tb));
 }
 
-void NearMisses::note(int curveA, float parameterA, int curveB, float parameterB,
-                      const orvane::Vector &place)
+void NearMisses::note(const Crossing &meeting, const orvane::Vector &place)
 {
-    m_meetings.append({curveA, parameterA, curveB, parameterB, place});
+    m_meetings.append({meeting, place});
 }
 
-QVector<PointOnCurve> NearMisses::unresolved(const QVector<CurveRecord> &records) const
+QVector<PointOnCurve> NearMisses::unresolved(const QVector<Crossing> &crossings) const
 {
-    QHash<QPair<int, int>, QVector<Meeting>> kept; // by the two curves
-    QVector<PointOnCurve> result;
-    for (const Meeting &m : m_meetings) {
-        // The same place is met from both segments at the point.
-        QVector<Meeting> &others = kept[{m.curveA, m.curveB}];
-        bool known = std::any_of(others.cbegin(), others.cend(), [&m](const Meeting &other) {
-            return isSameParameter(other.parameterA, m.parameterA)
-                   && isSameParameter(other.parameterB, m.parameterB);
+    if (m_meetings.isEmpty())
+        return {};
+    CrossingTable table(m_meetings.size());
+    for (int i = 0; i < m_meetings.size(); ++i)
+        table.add(i, m_meetings[i].crossing);
+    QVector<bool> isOut(m_meetings.size());
+    for (const Crossing &crossing : crossings) {
+        table.visitNear(crossing, [&](int i) {
+            if (makesUpFor(crossing, m_meetings[i].crossing))
+                isOut[i] = true;
         });
-        const QVector<IntersectionNode *> onB = nodesNear(records[m.curveB], m.parameterB);
-        for (IntersectionNode *node : nodesNear(records[m.curveA], m.parameterA))
-            known = known || onB.contains(node);
-        if (known)
+    }
+    QVector<PointOnCurve> result;
+    for (int i = 0; i < m_meetings.size(); ++i) {
+        if (isOut[i])
             continue;
-        others.append(m);
-        result.append({m.curveA, m.curveB, m.place});
+        const Crossing &m = m_meetings[i].crossing;
+        result.append({m.curveA, m.curveB, m_meetings[i].place});
+        // The same place is met from both segments at the point.
+        table.visitNear(m, [&](int later) {
+            if (isSamePlace(m_meetings[later].crossing, m))
+                isOut[later] = true;
+        });
     }
     return result;
 }

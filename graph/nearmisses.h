@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graph/curverecord.h"
+#include "graph/crossing.h"
 #include "graph/pointoncurve.h"
 
 #include <QVector>
@@ -15,19 +15,16 @@ public:
     //! and the other one on its segment too?
     static bool isOnEnd(float ta, float tb);
 
-    void note(int curveA, float parameterA, int curveB, float parameterB,
-              const orvane::Vector &place);
+    //! place: in world space.
+    void note(const Crossing &meeting, const orvane::Vector &place);
 
     //! Each place once, but for those that a crossing found right next to them makes up for.
-    QVector<PointOnCurve> unresolved(const QVector<CurveRecord> &records) const;
+    QVector<PointOnCurve> unresolved(const QVector<Crossing> &crossings) const;
 
 private:
     struct Meeting
     {
-        int curveA;
-        float parameterA;
-        int curveB;
-        float parameterB;
+        Crossing crossing;
         orvane::Vector place;
     };
 

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "graph/nodemerge.h"
 
-#include "graph/intersectionnode.h"
+#include "graph/nodemarks.h"
 
 #include <orvane/base/timer.h>
 
-#include <QSet>
-#include <QVector>
+#include <algorithm>
 
 namespace {
 
-QVector<IntersectionNode *> closeNeighbours(const IntersectionNode &node, float limitSquared)
+ShortList<IntersectionNode *, 4> closeNeighbours(const IntersectionNode &node, float limitSquared)
 {
-    QVector<IntersectionNode *> close;
+    ShortList<IntersectionNode *, 4> close;
     for (IntersectionNode *neighbour : node.neighbours) {
         if ((node.position() - neighbour->position()).LengthSquared() < limitSquared)
             close.append(neighbour);
@@ -24,22 +23,19 @@ QVector<IntersectionNode *> closeNeighbours(const IntersectionNode &node, float 
 
 void mergeCloseNodes(QList<IntersectionNode *> &nodes, float mergeDistance)
 {
-    QSet<IntersectionNode *> absorbed;
+    NodeMarks absorbed;
     for (IntersectionNode *node : qAsConst(nodes)) {
-        if (absorbed.contains(node))
+        if (absorbed.has(node))
             continue;
         for (IntersectionNode *close : closeNeighbours(*node, mergeDistance * mergeDistance)) {
             node->merge(close);
             close->unlinkAll();
-            absorbed.insert(close);
+            absorbed.set(close);
         }
     }
-    QList<IntersectionNode *> kept;
-    kept.reserve(nodes.size() - absorbed.size());
-    for (IntersectionNode *node : qAsConst(nodes)) {
-        if (!absorbed.contains(node))
-            kept.append(node);
-    }
-    nodes = kept;
+    const auto isAbsorbed = [&absorbed](const IntersectionNode *node) {
+        return absorbed.has(node);
+    };
+    nodes.erase(std::remove_if(nodes.begin(), nodes.end(), isAbsorbed), nodes.end());
     orvane::Timer::LogAll();
 }

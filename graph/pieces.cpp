@@ -1,29 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "graph/pieces.h"
 
-#include "graph/intersectionnode.h"
+#include "graph/nodemarks.h"
 
 #include <orvane/base/timer.h>
 
-#include <QHash>
 #include <QVector>
 
 namespace {
 
-const int NotReached = -1;
+const int NotReached = 0; // pieces are numbered from 1 on
 
 // Gives every node that can be reached from start the number of its piece.
-void reach(IntersectionNode *start, int piece, QHash<IntersectionNode *, int> &pieceOf)
+void reach(IntersectionNode *start, int piece, NodeMarks &pieceOf)
 {
     QVector<IntersectionNode *> queue{start};
-    pieceOf[start] = piece;
+    pieceOf.set(start, piece);
     while (!queue.isEmpty()) {
         const IntersectionNode *node = queue.takeLast();
         for (IntersectionNode *neighbour : node->neighbours) {
-            const auto found = pieceOf.find(neighbour);
-            if (found == pieceOf.end() || found.value() != NotReached)
+            if (!neighbour || pieceOf.of(neighbour) != NotReached)
                 continue;
-            found.value() = piece;
+            pieceOf.set(neighbour, piece);
             queue.append(neighbour);
         }
     }
@@ -34,17 +32,17 @@ void reach(IntersectionNode *start, int piece, QHash<IntersectionNode *, int> &p
 void findPieces(const QList<IntersectionNode *> &nodes, QList<IntersectionNode *> &seeds)
 {
     seeds.clear();
-    QHash<IntersectionNode *, int> pieceOf;
-    pieceOf.reserve(nodes.size());
+    NodeMarks pieceOf(nodes.size() + 1);
     for (IntersectionNode *node : nodes)
-        pieceOf.insert(node, NotReached);
+        pieceOf.set(node, NotReached);
     for (IntersectionNode *node : nodes) {
-        if (pieceOf.value(node) == NotReached) {
-            reach(node, seeds.size(), pieceOf);
+        const int piece = pieceOf.of(node);
+        if (piece == NotReached) {
             seeds.append(node);
+            reach(node, seeds.size(), pieceOf);
             continue;
         }
-        IntersectionNode *&seed = seeds[pieceOf.value(node)];
+        IntersectionNode *&seed = seeds[piece - 1];
         if (seed->neighbourCount() < 2 && node->neighbourCount() >= 2)
             seed = node;
     }

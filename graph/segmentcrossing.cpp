@@ -2,7 +2,7 @@
 #include "graph/segmentcrossing.h"
 
 #include <cmath>
-#include <initializer_list>
+#include <limits>
 
 using orvane::AxisAlignedBoundingBox;
 using orvane::Vector;
@@ -30,18 +30,12 @@ Vector snapped(const Vector &v)
     return {snapped(v.x), snapped(v.y), snapped(v.z)};
 }
 
-// Where along p0-p1 the point lies, as a fraction of its length.
-float fractionAlong(const Vector &point, const Vector &p0, const Vector &p1)
+// A single-precision number is below the answer exactly when it is below the limit.
+float floatLimit(double limit)
 {
-    const Vector d = p1 - p0;
-    if (double(d.Length()) < MinimumLength)
-        return 0.0f;
-    return Dot(point - p0, d) / d.LengthSquared();
-}
-
-bool isInside(float fraction)
-{
-    return 0.0f < fraction && fraction < 1.0f;
+    const float nearest = float(limit);
+    const bool isBelow = double(nearest) < limit;
+    return isBelow ? std::nextafter(nearest, std::numeric_limits<float>::infinity()) : nearest;
 }
 
 } // namespace
@@ -61,53 +55,27 @@ bool boxesOverlap(const AxisAlignedBoundingBox &a, const AxisAlignedBoundingBox 
 
 void closestPointOnLine(const Line &a, const Line &b, double epsilon, Vector &point, bool &found)
 {
-    const Vector c = a.direction & b.direction;
-    if (epsilon > double(c.LengthSquared())) {
-        found = false;
-        point = a.point;
-        return;
-    }
-    found = true;
-    // The plane that holds line a and the common perpendicular; line b pierces it.
-    const Vector n = Normalized(c & a.direction);
-    const float den = Dot(n, b.direction);
-    if (epsilon > double(std::fabs(den))) {
-        point = b.point;
-        return;
-    }
-    const float t = -(Dot(n, b.point) - Dot(n, a.point)) / den;
-    point = b.point + b.direction * t;
+    const crossinglane::ClosestPoint closest =
+        crossinglane::closestPoint(a.point, a.direction, b.point, b.direction, floatLimit(epsilon));
+    point = closest.point;
+    found = closest.isFound;
+}
+
+const crossinglane::Limits &crossingLimits()
+{
+    static const crossinglane::Limits limits = {floatLimit(parallelEpsilon()),
+                                                floatLimit(MinimumLength)};
+    return limits;
 }
 
 bool segmentsCross(const Vector &a0, const Vector &a1, const Vector &b0, const Vector &b1,
                    Vector &point, float &ta, float &tb)
 {
-    static const double Epsilon = parallelEpsilon();
-
-    // A unit-sized frame about the origin keeps the fixed epsilons meaningful at any scale.
-    AxisAlignedBoundingBox box;
-    for (const Vector *p : {&a0, &a1, &b0, &b1})
-        box.Extend(*p);
-    const Vector center = box.Center();
-    const float halfDiagonal = 0.5f * box.Diagonal();
-    const float scale = 1.0f / halfDiagonal;
-    const Vector ua0 = (a0 - center) * scale;
-    const Vector ua1 = (a1 - center) * scale;
-    const Vector ub0 = (b0 - center) * scale;
-    const Vector ub1 = (b1 - center) * scale;
-
-    bool found = false;
-    Vector x;
-    closestPointOnLine({ua0, Normalized(ua1 - ua0)}, {ub0, Normalized(ub1 - ub0)}, Epsilon, x,
-                       found);
-    ta = tb = -1.0f;
-    if (!found)
+    const crossinglane::Answer answer = crossinglane::cross(a0, a1, b0, b1, crossingLimits());
+    ta = answer.ta;
+    tb = answer.tb;
+    if (!answer.isCrossing())
         return false;
-    ta = fractionAlong(x, ua0, ua1);
-    tb = fractionAlong(x, ub0, ub1);
-    // Strict on both ends: a crossing at a sample belongs to neither segment, so none counts twice.
-    if (!isInside(ta) || !isInside(tb))
-        return false;
-    point = x * halfDiagonal + center;
+    point = answer.place;
     return true;
 }

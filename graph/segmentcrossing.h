@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graph/crossinglane.h"
+
 #include <orvane/math/axisalignedboundingbox.h>
 #include <orvane/math/vector.h>
 
@@ -39,3 +41,6 @@ void closestPointOnLine(const Line &a, const Line &b, double epsilon, orvane::Ve
 //! On false ta and tb are the fractions all the same, or both -1 for parallel lines.
 bool segmentsCross(const orvane::Vector &a0, const orvane::Vector &a1, const orvane::Vector &b0,
                    const orvane::Vector &b1, orvane::Vector &point, float &ta, float &tb);
+
+//! What segmentsCross goes by.
+const crossinglane::Limits &crossingLimits();

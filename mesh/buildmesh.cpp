@@ -9,25 +9,49 @@
 
 namespace {
 
-QVector<IntersectionNode *> numberVertices(IntersectionNode *start, MeshBuilder &builder)
+QVector<IntersectionNode *> nodesOf(IntersectionNode *start)
 {
     QVector<IntersectionNode *> nodes;
-    walkGraph(start, 0, [&](IntersectionNode *node) {
-        node->vertexIndex = builder.positions.size();
-        builder.positions.append(node->position());
-        builder.normals.append(node->normal);
-        nodes.append(node);
-    });
+    walkGraph(start, 0, [&nodes](IntersectionNode *node) { nodes.append(node); });
     return nodes;
 }
 
-// A start with a single neighbour makes no face, deliberately: the walk does not pass loose ends.
-void traceFaces(IntersectionNode *start, MeshBuilder &builder, int maxEdges)
+void numberVertices(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder)
 {
-    walkGraph(start, 2, [&](IntersectionNode *node) {
+    builder.positions.resize(nodes.size());
+    builder.normals.resize(nodes.size());
+    for (int i = 0; i < nodes.size(); ++i) {
+        nodes[i]->vertexIndex = i;
+        builder.positions[i] = nodes[i]->position();
+        builder.normals[i] = nodes[i]->normal;
+    }
+}
+
+// A start with a single neighbour makes no face, deliberately. Any other loose end is left out: a
+// walk that does not pass it meets the rest in the same order.
+void traceFaces(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder, int maxEdges)
+{
+    if (nodes.isEmpty() || nodes.first()->neighbourCount() < 2)
+        return;
+    for (IntersectionNode *node : nodes) {
+        if (node->neighbourCount() < 2)
+            continue;
         for (int i = 0; i < node->neighbourCount(); ++i)
             traceFace(node, i, builder, maxEdges);
-    });
+    }
+}
+
+BuiltPiece tracePiece(IntersectionNode *start, int maxEdges, MeshBuilder &builder)
+{
+    const QVector<IntersectionNode *> nodes = nodesOf(start);
+    numberVertices(nodes, builder);
+    traceFaces(nodes, builder, maxEdges);
+
+    BuiltPiece piece;
+    piece.nodes = nodes.size();
+    piece.builderFaces = builder.faces.size();
+    piece.holes = countHoles(nodes, builder, maxEdges);
+    return piece;
 }
 
 } // namespace
@@ -35,13 +59,7 @@ void traceFaces(IntersectionNode *start, MeshBuilder &builder, int maxEdges)
 BuiltPiece buildMeshFromGraph(IntersectionNode *start, int maxEdges)
 {
     MeshBuilder builder;
-    const QVector<IntersectionNode *> nodes = numberVertices(start, builder);
-    traceFaces(start, builder, maxEdges);
-
-    BuiltPiece piece;
-    piece.nodes = nodes.size();
-    piece.builderFaces = builder.faces.size();
-    piece.holes = countHoles(nodes, builder, maxEdges);
+    BuiltPiece piece = tracePiece(start, maxEdges, builder);
     if (!builder.faces.isEmpty())
         piece.mesh = builder.createMesh();
     if (piece.mesh) {

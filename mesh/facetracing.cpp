@@ -37,9 +37,10 @@ int freeDeparture(const IntersectionNode &node, int arrivedBy)
 {
     const int count = node.neighbourCount();
     for (int step = 1; step < count; ++step) {
-        const int edge = (arrivedBy - step + count) % count;
-        if (!node.outgoingUsed[edge])
-            return edge;
+        const int edge = arrivedBy - step;
+        const int wrapped = edge < 0 ? edge + count : edge;
+        if (!node.outgoingUsed[wrapped])
+            return wrapped;
     }
     return None;
 }
@@ -65,8 +66,8 @@ void traceFace(IntersectionNode *node, int edge, MeshBuilder &builder, int maxEd
     node->outgoingUsed[edge] = true;
     if (!walkFace(node->neighbours[edge], node, node, 1, maxEdges, face, builder))
         node->outgoingUsed[edge] = false;
-    else if (face.size() > 2)
-        builder.addPolygon(face);
+    else if (face.size() > 2) // a copy, which takes no more room than it needs
+        builder.addPolygon(QVector<int>(face.cbegin(), face.cend()));
 }
 
 // A walk calls itself for each next node in effect; the path is kept here instead of on the

@@ -8,7 +8,7 @@ using orvane::Vector;
 
 namespace {
 
-// All directed edges of a piece, each visited once by the cycle that it belongs to.
+// The directed edges of a piece, each visited at most once, by the cycle that it belongs to.
 class CellWalk
 {
 public:
@@ -94,7 +94,8 @@ HoleCounts countHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilde
     CellWalk walk(nodes);
     for (int vertex = 0; vertex < nodes.size(); ++vertex) {
         for (int edge = 0; edge < nodes[vertex]->neighbourCount(); ++edge) {
-            if (walk.isVisited(vertex, edge))
+            // A cycle of edges of faces is no hole; most are, and need not be followed.
+            if (nodes[vertex]->outgoingUsed[edge] || walk.isVisited(vertex, edge))
                 continue;
             bool hasFace = false;
             const QVector<int> cycle = walk.follow(vertex, edge, hasFace);

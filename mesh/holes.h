@@ -16,7 +16,8 @@ struct HoleCounts
     int unclosed = 0;  // no walk comes back to its start in a left turn on the whole
 };
 
-//! Follows every left-turning cycle of a traced piece and counts the inner ones that gave no face.
+//! Follows the left-turning cycles of a traced piece that have an edge of no face, and counts the
+//! inner ones that gave none.
 //! nodes: all nodes of the piece, by vertex number, neighbours in angular order.
 //! Linear in the edges where nodes have a bounded number of neighbours.
 HoleCounts countHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,

@@ -4,7 +4,7 @@
 #include "graph/graphwalk.h"
 #include "graph/intersectionnode.h"
 
-#include <QVector>
+#include <QVarLengthArray>
 #include <QtAlgorithms>
 
 #include <cmath>
@@ -20,6 +20,8 @@ struct AngleRecord
     float angle = 0.0f; // radians
     int index = 0;      // into the neighbours as they stand
 };
+
+using AngleRecords = QVarLengthArray<AngleRecord, 8>;
 
 // The sum of the corners' normals, each weighted by its angle. The corner between the last and
 // the first neighbour is left out: results already made repeat only so.
@@ -40,21 +42,23 @@ Vector directionTo(const IntersectionNode &neighbour, const IntersectionNode &no
     return Normalized(neighbour.position() - node.position());
 }
 
-QVector<AngleRecord> neighbourAngles(const IntersectionNode &node)
+float angleAbout(const Vector &normal, const Vector &reference, const Vector &d)
+{
+    const float angle = std::atan2(Dot(normal, reference & d), Dot(d, reference));
+    return angle < 0.0f ? angle + FullTurn : angle;
+}
+
+AngleRecords neighbourAngles(const IntersectionNode &node)
 {
     const bool normalIsKnown = node.normal.LengthSquared() != 0.0f;
     const Vector normal = normalIsKnown ? node.normal : normalFromNeighbours(node);
-    const Vector reference = Normalized(normal & directionTo(*node.neighbours.first(), node));
-    QVector<AngleRecord> records;
-    records.reserve(node.neighbourCount());
-    for (int i = 0; i < node.neighbourCount(); ++i) {
-        const Vector d = directionTo(*node.neighbours[i], node);
-        const float y = Dot(normal, reference & d);
-        const float x = Dot(d, reference);
-        float angle = std::atan2(y, x);
-        if (angle < 0.0f)
-            angle += FullTurn;
-        records.append({angle, i});
+    Vector direction = directionTo(*node.neighbours.first(), node);
+    const Vector reference = Normalized(normal & direction);
+    AngleRecords records;
+    records.append({angleAbout(normal, reference, direction), 0});
+    for (int i = 1; i < node.neighbourCount(); ++i) {
+        direction = directionTo(*node.neighbours[i], node);
+        records.append({angleAbout(normal, reference, direction), i});
     }
     return records;
 }
@@ -70,7 +74,7 @@ bool isBefore(const AngleRecord &a, const AngleRecord &b)
 #    pragma GCC diagnostic push
 #    pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 #endif
-void sortByAngle(QVector<AngleRecord> &records)
+void sortByAngle(AngleRecords &records)
 {
     qSort(records.begin(), records.end(), isBefore);
 }
@@ -84,13 +88,11 @@ void IntersectionNode::sortNeighboursByAngle()
 {
     if (neighbourCount() < 2)
         return;
-    QVector<AngleRecord> records = neighbourAngles(*this);
+    AngleRecords records = neighbourAngles(*this);
     sortByAngle(records);
-    QList<IntersectionNode *> sorted;
-    sorted.reserve(records.size());
-    for (const AngleRecord &record : qAsConst(records))
-        sorted.append(neighbours[record.index]);
-    neighbours = sorted;
+    const auto unsorted = neighbours;
+    for (int i = 0; i < records.size(); ++i)
+        neighbours[i] = unsorted[records[i].index];
 }
 
 void orderNeighbours(IntersectionNode *start)

@@ -11,6 +11,7 @@
 #include "mesh/neighbourordering.h"
 #include "operation/currentreport.h"
 #include "operation/nestedpieces.h"
+#include "operation/reportsummary.h"
 #include "operation/stageclock.h"
 
 #include <orvane/base/classdesc.h>
@@ -32,8 +33,10 @@ const orvane::ClassDesc OperationClass(orvane::Operation::StaticClass(),
                                                          "ManualRetopoOperation"),
                                        &ManualRetopoOperation::CreateInstances, 0, 0);
 
-void refreshHost()
+// report: of what was made; empty when it was taken back.
+void refreshHost(const QString &report)
 {
+    orvane::Kernel()->Interface()->ReportShow(report);
     orvane::Kernel()->ViewPort()->Redraw(orvane::RedrawAll, 0.0f, 0.0f, 0.0f, 0.0f);
     orvane::Kernel()->Interface()->RefreshUI();
 }
@@ -111,7 +114,7 @@ bool ManualRetopoOperation::create()
         orvane::Kernel()->ExplainFailure(lastRunReport().failure);
         return false;
     }
-    refreshHost();
+    refreshHost(summaryOf(lastRunReport()));
     m_firstExecution = false;
     return true;
 }
@@ -130,7 +133,7 @@ bool ManualRetopoOperation::takeBack()
         delete geometry;
     }
     m_addGeometry.clear();
-    refreshHost();
+    refreshHost(QString());
     m_firstExecution = true;
     return true;
 }

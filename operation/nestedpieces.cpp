@@ -78,9 +78,49 @@ bool liesOver(const Face &face, const Vector &p)
     return inside;
 }
 
+// A place of a piece, looked up among the faces of others.
+struct Probe
+{
+    Vector place;
+    int piece;
+};
+
+// From low x to high; places that are nowhere are left out.
+QVector<Probe> inOrder(QVector<Probe> probes)
+{
+    const auto isNowhere = [](const Probe &probe) {
+        return !std::isfinite(probe.place.x);
+    };
+    probes.erase(std::remove_if(probes.begin(), probes.end(), isNowhere), probes.end());
+    std::stable_sort(probes.begin(), probes.end(),
+                     [](const Probe &a, const Probe &b) { return a.place.x < b.place.x; });
+    return probes;
+}
+
+// Does another piece start where a face of the mesh could lie over it? Most pieces lie apart, and
+// their faces need no look. A box that is nowhere keeps nothing out.
+bool mayBeAround(const orvane::Mesh &mesh, int piece, const QVector<Probe> &starts)
+{
+    orvane::AxisAlignedBoundingBox box;
+    for (int vertex = 0; vertex < mesh.VertexCount(); ++vertex)
+        box.Extend(mesh.WorldVertexPosition(vertex));
+    box.Grow(GreatestBulge * box.Diagonal());
+    const Vector &low = box.minimum;
+    const Vector &high = box.maximum;
+    auto start = std::lower_bound(starts.cbegin(), starts.cend(), low.x,
+                                  [](const Probe &probe, float x) { return probe.place.x < x; });
+    for (; start != starts.cend() && !(start->place.x > high.x); ++start) {
+        const Vector &p = start->place;
+        if (start->piece != piece && !(p.y < low.y || p.y > high.y || p.z < low.z || p.z > high.z))
+            return true;
+    }
+    return false;
+}
+
 // Faces by the x at which they begin, so that a sweep along x meets few of them at a time.
 QVector<Face> facesInOrder(const RunReport &report, const QList<IntersectionNode *> &seeds,
-                           const QVector<orvane::Geometry *> &geometries)
+                           const QVector<orvane::Geometry *> &geometries,
+                           const QVector<Probe> &starts)
 {
     QVector<Face> faces;
     int built = 0;
@@ -88,6 +128,8 @@ QVector<Face> facesInOrder(const RunReport &report, const QList<IntersectionNode
         if (report.pieces[piece].outcome != PieceReport::Built)
             continue;
         const orvane::Mesh &mesh = *geometries[built++]->CurrentLevel();
+        if (!mayBeAround(mesh, piece, starts))
+            continue;
         const QVector<int> cells = cellsOfPolygons(mesh, seeds[piece]);
         for (int polygon = 0; polygon < cells.size(); ++polygon) {
             Face face = faceOf(mesh, polygon);
@@ -103,28 +145,15 @@ QVector<Face> facesInOrder(const RunReport &report, const QList<IntersectionNode
     return faces;
 }
 
-// A place of a piece, looked up among the faces of others.
-struct Probe
-{
-    Vector place;
-    int piece;
-};
-
 using Cell = QPair<int, int>; // its piece, its number there
 
-// Visits the probes from low x to high, each with the cells of other pieces over which it lies.
+// Visits the probes, which are in order, each with the cells of other pieces over which it lies.
 template <typename Visitor>
-void sweep(QVector<Probe> probes, const QVector<Face> &faces, Visitor visit)
+void sweep(const QVector<Probe> &probes, const QVector<Face> &faces, Visitor visit)
 {
-    const auto isNowhere = [](const Probe &probe) {
-        return !std::isfinite(probe.place.x);
-    };
-    probes.erase(std::remove_if(probes.begin(), probes.end(), isNowhere), probes.end());
-    std::stable_sort(probes.begin(), probes.end(),
-                     [](const Probe &a, const Probe &b) { return a.place.x < b.place.x; });
     QVector<const Face *> active;
     int next = 0;
-    for (const Probe &probe : qAsConst(probes)) {
+    for (const Probe &probe : probes) {
         while (next < faces.size() && faces[next].box.minimum.x <= probe.place.x)
             active.append(&faces[next++]);
         const auto isPast = [&](const Face *face) {
@@ -147,10 +176,11 @@ void noteNestedPieces(RunReport &report, const QList<IntersectionNode *> &seeds,
 {
     if (seeds.size() < 2)
         return;
-    const QVector<Face> faces = facesInOrder(report, seeds, geometries);
     QVector<Probe> starts;
     for (int piece = 0; piece < seeds.size(); ++piece)
         starts.append({seeds[piece]->position(), piece});
+    starts = inOrder(starts);
+    const QVector<Face> faces = facesInOrder(report, seeds, geometries, starts);
     // Most pieces are out at their first node; only of the others every node is looked up.
     QVector<Probe> nodes;
     sweep(starts, faces, [&](const Probe &start, const QSet<Cell> &cells) {
@@ -161,7 +191,7 @@ void noteNestedPieces(RunReport &report, const QList<IntersectionNode *> &seeds,
         });
     });
     QHash<QPair<int, Cell>, int> nodesOver; // how many nodes of a piece lie over a cell
-    sweep(nodes, faces, [&](const Probe &node, const QSet<Cell> &cells) {
+    sweep(inOrder(nodes), faces, [&](const Probe &node, const QSet<Cell> &cells) {
         for (const Cell &cell : cells)
             ++nodesOver[{node.piece, cell}];
     });

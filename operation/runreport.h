@@ -32,6 +32,11 @@ struct PieceReport
 //! Seconds that each stage of a run took.
 struct StageSeconds
 {
+    double total() const
+    {
+        return measure + sample + self + cross + link + merge + pieces + order + build;
+    }
+
     double measure = 0.0; // average edge length
     double sample = 0.0;
     double self = 0.0;

@@ -8,51 +8,89 @@
 
 #include <orvane/geometry/mesh.h>
 
+#include <QCoreApplication>
+
 namespace orvane {
 
-QString MeshFault::Name() const
+namespace {
+
+using Words = QString (*)(const char *text);
+
+QString plain(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+QString inUsersLanguage(const char *text)
+{
+    return QCoreApplication::translate("MeshFault", text);
+}
+
+const char *nameOf(int bit)
 {
     switch (bit) {
     case MeshChecker::HighValence:
-        return QStringLiteral("high-valence vertex");
+        return QT_TRANSLATE_NOOP("MeshFault", "high-valence vertex");
     case MeshChecker::NonManifoldEdge:
-        return QStringLiteral("edge shared by more than two faces");
+        return QT_TRANSLATE_NOOP("MeshFault", "edge shared by more than two faces");
     case MeshChecker::VertexSplice:
-        return QStringLiteral("vertex shared by separate fans of faces");
+        return QT_TRANSLATE_NOOP("MeshFault", "vertex shared by separate fans of faces");
     case MeshChecker::TwoSidedFace:
-        return QStringLiteral("two-sided face");
+        return QT_TRANSLATE_NOOP("MeshFault", "two-sided face");
     case MeshChecker::TooManySides:
-        return QStringLiteral("face of more than 16 sides");
+        return QT_TRANSLATE_NOOP("MeshFault", "face of more than 16 sides");
     case MeshChecker::BoundaryValence:
-        return QStringLiteral("vertex of more than two boundary edges");
+        return QT_TRANSLATE_NOOP("MeshFault", "vertex of more than two boundary edges");
     case MeshChecker::InteriorValenceTwo:
-        return QStringLiteral("interior vertex of valence two");
+        return QT_TRANSLATE_NOOP("MeshFault", "interior vertex of valence two");
     case MeshChecker::ZeroLengthEdge:
-        return QStringLiteral("zero-length edge");
+        return QT_TRANSLATE_NOOP("MeshFault", "zero-length edge");
     case MeshChecker::LaminaFaces:
-        return QStringLiteral("lamina face");
+        return QT_TRANSLATE_NOOP("MeshFault", "lamina face");
     case MeshChecker::UVCrossing:
-        return QStringLiteral("face across a UV tile boundary");
+        return QT_TRANSLATE_NOOP("MeshFault", "face across a UV tile boundary");
     case MeshChecker::MissingUVs:
-        return QStringLiteral("face without UVs");
+        return QT_TRANSLATE_NOOP("MeshFault", "face without UVs");
     case MeshChecker::DegenerateFace:
-        return QStringLiteral("degenerate face");
+        return QT_TRANSLATE_NOOP("MeshFault", "degenerate face");
     default:
-        return QString();
+        return "";
     }
+}
+
+QString firstPlaceOf(const MeshFault &fault, Words words)
+{
+    if (!fault.vertices.isEmpty())
+        return words(QT_TRANSLATE_NOOP("MeshFault", "vertex %1")).arg(fault.vertices.first());
+    if (!fault.edges.isEmpty())
+        return words(QT_TRANSLATE_NOOP("MeshFault", "edge %1-%2"))
+            .arg(fault.edges.first().a)
+            .arg(fault.edges.first().b);
+    if (!fault.polygons.isEmpty())
+        return words(QT_TRANSLATE_NOOP("MeshFault", "polygon %1 (mesh face %2)"))
+            .arg(fault.polygons.first().polygon)
+            .arg(fault.polygons.first().meshFace);
+    return QString();
+}
+
+} // namespace
+
+QString MeshFault::Name() const
+{
+    return plain(nameOf(bit));
 }
 
 QString MeshFault::FirstPlace() const
 {
-    if (!vertices.isEmpty())
-        return QStringLiteral("vertex %1").arg(vertices.first());
-    if (!edges.isEmpty())
-        return QStringLiteral("edge %1-%2").arg(edges.first().a).arg(edges.first().b);
-    if (!polygons.isEmpty())
-        return QStringLiteral("polygon %1 (mesh face %2)")
-            .arg(polygons.first().polygon)
-            .arg(polygons.first().meshFace);
-    return QString();
+    return firstPlaceOf(*this, plain);
+}
+
+QString MeshFault::Text() const
+{
+    return inUsersLanguage(QT_TRANSLATE_NOOP("MeshFault", "%1: %2, the first is %3"))
+        .arg(inUsersLanguage(nameOf(bit)))
+        .arg(Count())
+        .arg(firstPlaceOf(*this, inUsersLanguage));
 }
 
 int MeshChecker::Validate(const Mesh *mesh) const

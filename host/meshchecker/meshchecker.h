@@ -27,6 +27,8 @@ struct MESHCHECKER_EXPORT MeshFault
     QString Name() const;
     //! "vertex 12", "edge 3-7" or "polygon 5 (mesh face 7)"; empty without a place.
     QString FirstPlace() const;
+    //! "zero-length edge: 3, the first is edge 3-7", in the user's language.
+    QString Text() const;
 
     int bit = 0;
     QVector<int> vertices;

@@ -149,10 +149,7 @@ QStringList MeshFigures::FaultTexts() const
 {
     QStringList texts;
     for (const MeshFault &fault : faults)
-        texts.append(QStringLiteral("%1: %2, the first is %3")
-                         .arg(fault.Name())
-                         .arg(fault.Count())
-                         .arg(fault.FirstPlace()));
+        texts.append(fault.Text());
     return texts;
 }
 

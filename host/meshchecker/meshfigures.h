@@ -12,7 +12,7 @@ namespace orvane {
 //! lengths and the area are in world space, in scene units.
 struct MESHCHECKER_EXPORT MeshFigures
 {
-    //! "zero-length edge: 3, the first is edge 3-7", one text for each kind; empty without faults.
+    //! The text of each kind; empty without faults.
     QStringList FaultTexts() const;
 
     int vertices = 0;

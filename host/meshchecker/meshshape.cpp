@@ -40,10 +40,32 @@ void appendBoundary(QVector<int> &corners, const PolygonList &polygons, int poly
         corners.resize(first + 2);
 }
 
+// Is the polygon its own boundary, as nearly all are?
+bool isBoundary(const PolygonList &polygons, int polygon, int vertexCount)
+{
+    const int *corner = polygons.Corners(polygon);
+    const int count = polygons.CornerCount(polygon);
+    bool alternating = true;
+    for (int i = 0; i < count; ++i) {
+        if (corner[i] < 0 || corner[i] >= vertexCount
+            || corner[i] == corner[i == 0 ? count - 1 : i - 1])
+            return false;
+        alternating = alternating && (i < 2 || corner[i] == corner[i - 2]);
+    }
+    return count < 3 || !alternating;
+}
+
 PolygonList boundariesOf(const PolygonList &polygons, int vertexCount)
 {
-    PolygonList boundaries;
-    boundaries.firstFace = polygons.firstFace;
+    PolygonList boundaries = polygons;
+    boundaries.uvCorners.clear();
+    int clean = 0;
+    while (clean < polygons.Count() && isBoundary(polygons, clean, vertexCount))
+        ++clean;
+    if (clean == polygons.Count())
+        return boundaries; // shares its lists with the polygons
+    boundaries.firstCorner.clear();
+    boundaries.corners.clear();
     boundaries.firstCorner.reserve(polygons.firstCorner.size());
     boundaries.corners.reserve(polygons.corners.size());
     for (int p = 0; p < polygons.Count(); ++p) {

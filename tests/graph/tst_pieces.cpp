@@ -11,6 +11,8 @@
 
 #include <orvane/geometry/orvanecurve.h>
 
+#include <QSet>
+
 #include <array>
 #include <vector>
 

@@ -11,6 +11,8 @@
 #include <orvane/kernel/kernel.h>
 #include <orvane/kernel/scene.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <iostream>
 #include <limits>
@@ -110,6 +112,83 @@ QList<OrvaneCurve *> randomScene(Sheet &sheet, std::mt19937 &random)
     return curves;
 }
 
+// Strokes both ways across the sheet, turned about its middle.
+void drawLattice(Sheet &sheet, std::mt19937 &random)
+{
+    const float angle = randomBetween(random, 0.0f, 1.5f);
+    const Vector along(std::cos(angle), std::sin(angle), 0.0f);
+    const Vector across(-along.y, along.x, 0.0f);
+    const Vector middle(0.5f * SheetSize, 0.5f * SheetSize, 0.0f);
+    const float half = 0.35f * SheetSize;
+    for (int i = 0; i < 12; ++i) {
+        const float offset = half * (float(i) / 5.5f - 1.0f);
+        const Vector row = middle + across * offset;
+        const Vector column = middle + along * offset;
+        sheet.wavy(row - along * half, row + along * half, 50, 0.03f, 3.0f);
+        sheet.wavy(column - across * half, column + across * half, 50, 0.03f, 3.0f);
+    }
+}
+
+Vector randomPlace(std::mt19937 &random)
+{
+    return {randomBetween(random, 0.0f, SheetSize), randomBetween(random, 0.0f, SheetSize), 0.0f};
+}
+
+void drawChords(Sheet &sheet, std::mt19937 &random)
+{
+    for (int i = 0; i < 30; ++i)
+        sheet.straight(randomPlace(random), randomPlace(random), 2 + int(random() % 60));
+}
+
+void drawShortStrokes(Sheet &sheet, std::mt19937 &random)
+{
+    for (int i = 0; i < 400; ++i) {
+        const Vector from = randomPlace(random);
+        sheet.wavy(from, from + randomVector(random, 0.5f), 2 + int(random() % 4), 0.1f);
+    }
+}
+
+void drawScribbles(Sheet &sheet, std::mt19937 &random)
+{
+    for (int i = 0; i < 3; ++i) {
+        QVector<Vector> places;
+        for (int point = 0; point < 120; ++point)
+            places.append(randomPlace(random) * 0.1f + Vector(0.03f * float(point), 2.0f, 0.0f));
+        i == 0 ? sheet.loop(places) : sheet.stroke(places);
+    }
+}
+
+// The same strokes once more, some backwards, some shifted along themselves, some points doubled.
+void drawDuplicates(Sheet &sheet, std::mt19937 &random)
+{
+    for (int i = 0; i < 6; ++i) {
+        QVector<Vector> places = randomWalk(random);
+        sheet.stroke(places);
+        sheet.stroke(places);
+        std::reverse(places.begin(), places.end());
+        sheet.stroke(places);
+        for (Vector &place : places)
+            place += places[1] - places[0];
+        sheet.stroke(places);
+        places.insert(1, places[0]);
+        sheet.stroke(places);
+    }
+}
+
+// Everything within a few widths of where coordinates are read as 0.
+void drawNearZero(Sheet &sheet, std::mt19937 &random)
+{
+    for (int i = 0; i < 40; ++i) {
+        QVector<Vector> places;
+        for (int point = 0; point < 4; ++point) {
+            Vector place = (randomVector(random) + Vector(1, 1, 0)) * 1e-4f;
+            place.z = randomBetween(random, -1e-4f, 1e-4f);
+            places.append(place);
+        }
+        sheet.stroke(places);
+    }
+}
+
 void spoilAPoint(OrvaneCurve &curve, std::mt19937 &random)
 {
     const float infinity = std::numeric_limits<float>::infinity();
@@ -147,7 +226,7 @@ TEST_F(SearchByRule, randomScenesGiveTheSameNodesInTheSameOrderWithTheSameLinks)
 TEST_F(SearchByRule, placesThatAreNoFiniteNumbersNeitherStopNorDisturbIt)
 {
     std::mt19937 random(testSeed());
-    for (int scene = 0; scene < 100; ++scene) {
+    for (int scene = 0; scene < 300; ++scene) {
         orvane::Kernel()->Scene()->Clear();
         Sheet sheet(SheetSize);
         const QList<OrvaneCurve *> curves = randomScene(sheet, random);
@@ -156,7 +235,9 @@ TEST_F(SearchByRule, placesThatAreNoFiniteNumbersNeitherStopNorDisturbIt)
                 spoilAPoint(*curve, random);
         }
         SCOPED_TRACE(scene);
-        const float distance = random() % 4 == 0 ? std::numeric_limits<float>::quiet_NaN() : 0.05f;
+        const float infinity = std::numeric_limits<float>::infinity();
+        const float odd[] = {std::numeric_limits<float>::quiet_NaN(), infinity, -infinity, 3e38f};
+        const float distance = random() % 4 == 0 ? odd[random() % 4] : 0.05f;
         compare(curves, distance, 0.35f, true);
         if (HasFatalFailure())
             return;
@@ -190,4 +271,25 @@ TEST_F(SearchByRule, whatIsFoundDependsOnNothingButTheCurves)
     compare(sheet.curves(), 0.05f, 0.2f, true);
     EXPECT_EQ(found, 2 * first);
     EXPECT_GT(first, 40);
+}
+
+TEST_F(SearchByRule, scenesOfManyRunsOfSegmentsAreNoException)
+{
+    std::mt19937 random(testSeed());
+    const auto drawings = {drawLattice,   drawChords,     drawShortStrokes,
+                           drawScribbles, drawDuplicates, drawNearZero};
+    const float distances[] = {0.0f, 1e-5f, 4e-5f, 0.02f, 0.2f};
+    for (const auto draw : drawings) {
+        for (int scene = 0; scene < 3; ++scene) {
+            orvane::Kernel()->Scene()->Clear();
+            Sheet sheet(SheetSize);
+            draw(sheet, random);
+            const int before = found;
+            compare(sheet.curves(), distances[random() % 5], 0.1f, true);
+            EXPECT_GT(found, before);
+            if (HasFatalFailure())
+                return;
+        }
+    }
+    std::cout << found << " crossings" << std::endl;
 }

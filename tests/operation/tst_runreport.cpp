@@ -46,6 +46,36 @@ void drawWheel(Sheet &sheet)
 
 } // namespace
 
+TEST_F(RunReportTest, theUserIsToldInOneLineAndUndoTakesItBack)
+{
+    RecordingInterface interface;
+    Sheet sheet;
+    sheet.grid(3, 2);
+    ManualRetopoOperation operation(sheet.curves(), 5, 0.1f, 0.05f, 0.0f, false);
+    operation.ExecuteAndInvert();
+    ASSERT_EQ(interface.reports.size(), 1);
+    EXPECT_TRUE(interface.reports[0].startsWith(QLatin1String("Crossings: 12. Faces: 6. Time: ")))
+        << qPrintable(interface.reports[0]);
+    operation.ExecuteAndInvert();
+    EXPECT_EQ(interface.reports.value(1), QString());
+    EXPECT_EQ(interface.reports.size(), 2);
+}
+
+TEST_F(RunReportTest, theLineNamesHoles)
+{
+    RecordingInterface interface;
+    Sheet sheet;
+    sheet.grid(3, 2);
+    // Two more vertices on the side of a cell: it has six now.
+    sheet.straight({4.8f, 3.31f, 0}, {4.8f, 4.42f, 0}, 2);
+    sheet.straight({5.2f, 3.31f, 0}, {5.2f, 4.42f, 0}, 2);
+    run(sheet.curves());
+    ASSERT_EQ(interface.reports.size(), 1);
+    EXPECT_TRUE(
+        interface.reports[0].startsWith(QLatin1String("Crossings: 14. Faces: 5. Holes: 1. Time: ")))
+        << qPrintable(interface.reports[0]);
+}
+
 TEST_F(RunReportTest, aRunIsCountedFromCurvesToFaces)
 {
     Sheet sheet;

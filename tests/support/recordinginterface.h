@@ -34,12 +34,14 @@ public:
     void ProgressSet(qint64 value) override;
     void ProgressEnd() override;
     void HUDMessageShow(const QString &text, int type, int milliseconds) override;
+    void ReportShow(const QString &text) override { reports.append(text); }
     void RefreshUI() override { ++refreshes; }
 
     QStringList phaseTexts() const;
 
     QVector<Phase> phases;
     QVector<Message> messages;
+    QStringList reports;
     int refreshes = 0;
     int strayCalls = 0; // progress set or ended while no phase was running
 };

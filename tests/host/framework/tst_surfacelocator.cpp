@@ -420,3 +420,21 @@ TEST_F(Locating, answersTheSameForTheSameQuestion)
         EXPECT_EQ(a.WorldPosition(), b.WorldPosition());
     }
 }
+
+TEST_F(Locating, aMeshKeepsItsLocatorWhileItStaysTheSame)
+{
+    SubdivisionLevel *level = singleQuad();
+    orvane::Geometry *geometry = addToScene(level);
+    const SurfaceLocator *first = &level->Locator();
+    EXPECT_EQ(&level->Locator(), first);
+    level->RecomputeNormals(false);
+    level->Update(true, 0);
+    EXPECT_EQ(&level->Locator(), first) << "no place has changed";
+    const Vector above(0.3f, 0.4f, 5.0f);
+    EXPECT_FLOAT_EQ(level->Locator().ClosestPoint(above, 10.0f).WorldPosition().z, 0.0f);
+    for (int v = 0; v < 4; ++v)
+        level->SetVertexPosition(v, level->VertexPosition(v) + Vector(0, 0, 1));
+    EXPECT_FLOAT_EQ(level->Locator().ClosestPoint(above, 10.0f).WorldPosition().z, 1.0f);
+    geometry->Placement()->SetWorldMatrix(Matrix::Translation({0, 0, 2}));
+    EXPECT_FLOAT_EQ(level->Locator().ClosestPoint(above, 10.0f).WorldPosition().z, 3.0f);
+}

@@ -27,6 +27,8 @@ public:
     {
         const bool known =
             qstrcmp(context, "NumberOperation") == 0 && qstrcmp(source, "Change the Number") == 0;
+        if (qstrcmp(context, "UndoStep") == 0 && qstrcmp(source, "Count") == 0)
+            return QStringLiteral("Zählen");
         return known ? QStringLiteral("Zahl ändern") : QString();
     }
     bool isEmpty() const override { return false; }
@@ -267,6 +269,28 @@ TEST_F(Undoing, isEmptyAfterClear)
     EXPECT_FALSE(m_queue.CanUndo());
     EXPECT_FALSE(m_queue.CanRedo());
     EXPECT_EQ(m_queue.StepCount(), 0);
+}
+
+TEST_F(Undoing, aStepIsCalledByItsTitle)
+{
+    m_queue.SetTitle(QStringLiteral("Count")); // of nothing
+    add(1);
+    m_queue.SetTitle(QStringLiteral("Count"));
+    add(2, true);
+    m_queue.SetTitle(QStringLiteral("Too late"));
+    EXPECT_EQ(m_queue.UndoText(), QStringLiteral("Count"));
+    add(3);
+    EXPECT_EQ(m_queue.UndoText(), QStringLiteral("Change the Number"));
+    m_queue.Undo();
+    m_queue.Undo();
+    EXPECT_EQ(m_queue.RedoText(), QStringLiteral("Count"));
+    UndoQueue other;
+    other.Restore(m_queue.Steps(), 1);
+    EXPECT_EQ(other.UndoText(), QStringLiteral("Count"));
+    Words words;
+    QCoreApplication::installTranslator(&words);
+    EXPECT_EQ(other.UndoText(), QStringLiteral("Zählen"));
+    QCoreApplication::removeTranslator(&words);
 }
 
 TEST_F(Undoing, goesOnWithWhatAnotherQueueKept)

@@ -5,6 +5,7 @@
 #include <orvane/base/log.h>
 #include <orvane/base/stream.h>
 #include <orvane/geometry/geometry.h>
+#include <orvane/geometry/keptlocator.h>
 #include <orvane/geometry/placement.h>
 
 #include <algorithm>
@@ -35,6 +36,10 @@ float cornerAngle(const Vector &p, const Vector &q, const Vector &r)
 
 } // namespace
 
+Mesh::Mesh(FaceType type) : Topology(type) {}
+
+Mesh::~Mesh() = default;
+
 Vector Mesh::WorldVertexPosition(int vertex) const
 {
     const Vector local = VertexPosition(vertex);
@@ -61,6 +66,13 @@ Vector Mesh::cornerPosition(FaceType type, int face, int corner) const
 {
     const int vertex = type == Type() ? VertexIndex(face, corner) : -1;
     return vertex < 0 ? Vector() : WorldVertexPosition(vertex);
+}
+
+const SurfaceLocator &Mesh::Locator() const
+{
+    if (!m_locator || !m_locator->IsCurrent(*this))
+        m_locator.reset(new KeptLocator(*this));
+    return m_locator->Locator();
 }
 
 void Mesh::SetFaceCount(int count)
@@ -106,36 +118,39 @@ void Mesh::SetTextureCoordinate(int uv, const UV &coordinate)
 
 void Mesh::RecomputeNormals(bool keepVertexNormals)
 {
+    const int perFace = CornersPerFace();
     m_faceNormals.resize(FaceCount());
-    for (int face = 0; face < FaceCount(); ++face) {
-        const Vector p0 = VertexPosition(VertexIndex(face, 0));
-        const Vector p1 = VertexPosition(VertexIndex(face, 1));
-        const Vector p2 = VertexPosition(VertexIndex(face, 2));
+    Vector *normal = m_faceNormals.data();
+    for (int slot = 0; slot < m_corners.size(); slot += perFace) {
+        const Vector p0 = placeAt(slot);
+        const Vector p1 = placeAt(slot + 1);
+        const Vector p2 = placeAt(slot + 2);
         // The diagonals of a quad see all four corners, bent or not.
-        const Vector area = IsQuads() ? (p2 - p0) & (VertexPosition(VertexIndex(face, 3)) - p1)
-                                      : (p1 - p0) & (p2 - p0);
-        m_faceNormals[face] = Normalized(area);
+        const Vector area =
+            IsQuads() ? (p2 - p0) & (placeAt(slot + 3) - p1) : (p1 - p0) & (p2 - p0);
+        *normal++ = Normalized(area);
     }
     if (keepVertexNormals)
         return;
     m_normals.fill(Vector(), VertexCount());
     for (int face = 0; face < FaceCount(); ++face)
         addCornerAngles(face);
-    for (Vector &normal : m_normals)
-        normal.Normalize();
+    for (Vector &vertexNormal : m_normals)
+        vertexNormal.Normalize();
 }
 
 void Mesh::addCornerAngles(int face)
 {
     const int corners = CornersPerFace();
+    const int first = face * corners;
     for (int i = 0; i < corners; ++i) {
-        const int vertex = VertexIndex(face, i);
+        const int vertex = m_corners.at(first + i);
         if (vertex >= VertexCount())
             continue;
-        const Vector next = VertexPosition(VertexIndex(face, (i + 1) % corners));
-        const Vector previous = VertexPosition(VertexIndex(face, (i + corners - 1) % corners));
+        const Vector next = placeAt(first + (i + 1) % corners);
+        const Vector previous = placeAt(first + (i + corners - 1) % corners);
         m_normals[vertex] +=
-            m_faceNormals[face] * cornerAngle(VertexPosition(vertex), next, previous);
+            m_faceNormals.at(face) * cornerAngle(m_positions.at(vertex), next, previous);
     }
 }
 

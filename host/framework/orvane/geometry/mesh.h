@@ -6,9 +6,13 @@
 #include <orvane/geometry/topology.h>
 #include <orvane/math/axisalignedboundingbox.h>
 
+#include <memory>
+
 namespace orvane {
 
 class Geometry;
+class KeptLocator;
+class SurfaceLocator;
 
 //! A texture coordinate.
 struct UV
@@ -22,7 +26,8 @@ struct UV
 class ORVANE_EXPORT Mesh : public Node, public Topology
 {
 public:
-    explicit Mesh(FaceType type) : Topology(type) {}
+    explicit Mesh(FaceType type);
+    ~Mesh() override;
 
     int VertexCount() const { return m_positions.size(); }
     int UVCount() const { return m_uvs.size(); }
@@ -47,6 +52,10 @@ public:
     const AxisAlignedBoundingBox &Bounds() const { return m_bounds; }
     const PolygonList &Polygons() const { return m_polygons; }
     const QVector<MeshEdge> &Edges() const { return m_edges; }
+
+    //! Finds places on the mesh where it is now. Made at the first asking, and anew when the mesh
+    //! has changed or moved since; good until then.
+    const SurfaceLocator &Locator() const;
 
     virtual void SetFaceCount(int count);
     virtual void SetVertexCount(int count);
@@ -76,6 +85,7 @@ private:
     friend class Geometry;
 
     Vector cornerPosition(FaceType type, int face, int corner) const;
+    Vector placeAt(int slot) const { return m_positions.value(m_corners.at(slot)); }
     void addCornerAngles(int face);
     bool cornersInRange() const;
 
@@ -86,7 +96,8 @@ private:
     AxisAlignedBoundingBox m_bounds;
     PolygonList m_polygons;
     QVector<MeshEdge> m_edges;
-    Geometry *m_holder = nullptr; // owns this mesh
+    mutable std::unique_ptr<KeptLocator> m_locator; // null until asked for
+    Geometry *m_holder = nullptr;                   // owns this mesh
     bool m_changed = false;
 };
 

@@ -7,30 +7,26 @@
 
 namespace orvane {
 
-namespace {
-
-void appendCorner(PolygonList &list, const Topology &topology, int face, int corner)
-{
-    list.corners.append(topology.VertexIndex(face, corner));
-    if (topology.HasUVs())
-        list.uvCorners.append(topology.UVIndex(face, corner));
-}
-
-} // namespace
-
 PolygonList polygonsOf(const Topology &topology)
 {
     PolygonList list;
-    list.corners.reserve(topology.Corners().size());
-    for (int face = 0; face < topology.FaceCount(); ++face) {
-        if (topology.IsFakeTriangle(face)) {
-            appendCorner(list, topology, face, 2);
-            continue;
+    const QVector<int> &corners = topology.Corners();
+    const int perFace = topology.CornersPerFace();
+    const int faceCount = topology.FaceCount();
+    list.corners.reserve(corners.size());
+    list.firstFace.reserve(faceCount);
+    list.firstCorner.reserve(faceCount + 1);
+    for (int face = 0; face < faceCount; ++face) {
+        const bool fake = topology.IsFakeTriangle(face);
+        if (!fake) {
+            list.firstFace.append(face);
+            list.firstCorner.append(list.corners.size());
         }
-        list.firstFace.append(face);
-        list.firstCorner.append(list.corners.size());
-        for (int corner = 0; corner < topology.CornersPerFace(); ++corner)
-            appendCorner(list, topology, face, corner);
+        for (int corner = fake ? 2 : 0; corner < perFace; ++corner) {
+            list.corners.append(corners[face * perFace + corner]);
+            if (topology.HasUVs())
+                list.uvCorners.append(topology.UVIndex(face, corner));
+        }
     }
     list.firstCorner.append(list.corners.size());
     return list;
@@ -52,22 +48,27 @@ QVector<MeshEdge> edgesOf(const PolygonList &polygons, int vertexCount)
             }
         }
     };
-    forEachSide([&start](int a, int) { ++start[a + 1]; });
+    int *count = start.data() + 1;
+    forEachSide([count](int a, int) { ++count[a]; });
     for (int v = 0; v < vertexCount; ++v)
         start[v + 1] += start[v];
     QVector<int> upper(start[vertexCount]);
     QVector<int> next = start;
-    forEachSide([&](int a, int b) { upper[next[a]++] = b; });
+    int *place = next.data();
+    int *sides = upper.data();
+    forEachSide([place, sides](int a, int b) { sides[place[a]++] = b; });
 
     QVector<MeshEdge> edges;
     edges.reserve(upper.size() / 2);
     for (int a = 0; a < vertexCount; ++a) {
-        std::sort(upper.begin() + start[a], upper.begin() + start[a + 1]);
-        for (int i = start[a]; i < start[a + 1]; ++i) {
-            if (i > start[a] && upper[i] == upper[i - 1])
+        int *begin = sides + start.at(a);
+        int *end = sides + start.at(a + 1);
+        std::sort(begin, end);
+        for (const int *side = begin; side != end; ++side) {
+            if (side != begin && *side == side[-1])
                 ++edges.last().polygons;
             else
-                edges.append({a, upper[i], 1});
+                edges.append({a, *side, 1});
         }
     }
     return edges;

@@ -21,6 +21,7 @@ struct SurfaceLocator::Scene
 
     RTCDevice device = nullptr;
     RTCScene scene = nullptr;
+    const float *places = nullptr; // three a vertex, in world space; owned by the scene
 };
 
 namespace {
@@ -104,6 +105,7 @@ SurfacePoint surfacePointOf(const Mesh &mesh, int primitive, const TrianglePlace
 struct Search
 {
     const Mesh *mesh;
+    const float *places;
     Vector place;
     float distanceSquared;
     int primitive = -1;
@@ -113,11 +115,17 @@ struct Search
 void cornersOf(const Mesh &mesh, int primitive, int (&vertex)[3])
 {
     const bool quads = mesh.IsQuads();
-    const int face = quads ? primitive / 2 : primitive;
+    const int *corner = mesh.Corners().constData() + (quads ? primitive / 2 * 4 : primitive * 3);
     const int second = quads && primitive % 2 == 1 ? 2 : 1;
-    vertex[0] = mesh.VertexIndex(face, 0);
-    vertex[1] = mesh.VertexIndex(face, second);
-    vertex[2] = mesh.VertexIndex(face, second + 1);
+    vertex[0] = corner[0];
+    vertex[1] = corner[second];
+    vertex[2] = corner[second + 1];
+}
+
+Vector placeOf(const float *places, int vertex)
+{
+    const float *place = places + 3 * qint64(vertex);
+    return {place[0], place[1], place[2]};
 }
 
 bool visitPrimitive(RTCPointQueryFunctionArguments *arguments)
@@ -126,9 +134,9 @@ bool visitPrimitive(RTCPointQueryFunctionArguments *arguments)
     const int primitive = int(arguments->primID);
     int vertex[3];
     cornersOf(*search.mesh, primitive, vertex);
-    const Vector a = search.mesh->WorldVertexPosition(vertex[0]);
-    const Vector b = search.mesh->WorldVertexPosition(vertex[1]);
-    const Vector c = search.mesh->WorldVertexPosition(vertex[2]);
+    const Vector a = placeOf(search.places, vertex[0]);
+    const Vector b = placeOf(search.places, vertex[1]);
+    const Vector c = placeOf(search.places, vertex[2]);
     const TrianglePlace place = closestOnTriangle(search.place, a, b, c);
     const Vector offset = a + (b - a) * place.s + (c - a) * place.t - search.place;
     const float distanceSquared = offset.LengthSquared();
@@ -147,7 +155,8 @@ bool visitPrimitive(RTCPointQueryFunctionArguments *arguments)
     return true;
 }
 
-void addFaces(RTCGeometry geometry, const Mesh &mesh)
+// The places of the vertices as Embree has them.
+const float *addFaces(RTCGeometry geometry, const Mesh &mesh)
 {
     auto *position = static_cast<float *>(
         rtcSetNewGeometryBuffer(geometry, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3,
@@ -170,6 +179,7 @@ void addFaces(RTCGeometry geometry, const Mesh &mesh)
         for (int i = 0; i < 3; ++i)
             index[3 * primitive + i] = unsigned(vertex[i]);
     }
+    return position;
 }
 
 } // namespace
@@ -182,7 +192,7 @@ SurfaceLocator::SurfaceLocator(const Mesh &mesh) : m_mesh(mesh), m_scene(new Sce
     rtcSetSceneFlags(m_scene->scene, RTC_SCENE_FLAG_ROBUST);
     if (mesh.FaceCount() > 0) {
         RTCGeometry geometry = rtcNewGeometry(m_scene->device, RTC_GEOMETRY_TYPE_TRIANGLE);
-        addFaces(geometry, mesh);
+        m_scene->places = addFaces(geometry, mesh);
         rtcCommitGeometry(geometry);
         rtcAttachGeometry(m_scene->scene, geometry);
         rtcReleaseGeometry(geometry);
@@ -201,7 +211,7 @@ SurfacePoint SurfaceLocator::ClosestPoint(const Vector &place, float maxDistance
         return {};
     // A rounding of the radius must not hide the face that a point lies on exactly.
     const float radius = std::nextafter(maxDistance, std::numeric_limits<float>::max());
-    Search search{&m_mesh, place, radius * radius, -1, {}};
+    Search search{&m_mesh, m_scene->places, place, radius * radius, -1, {}};
     RTCPointQuery query;
     query.x = place.x;
     query.y = place.y;

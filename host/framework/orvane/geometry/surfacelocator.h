@@ -9,9 +9,9 @@ namespace orvane {
 
 class Mesh;
 
-//! Finds points on a mesh: the closest to a place, the first along a ray. Built once per mesh, in
-//! world space; a mesh that changes or moves needs a new one. Runs out of memory as Qt does. Built
-//! on Intel's Embree.
+//! Finds points on a mesh: the closest to a place, the first along a ray. Built once, in world
+//! space; a mesh that changes or moves needs a new one, so ask Mesh::Locator. Runs out of memory
+//! as Qt does. Built on Intel's Embree.
 class ORVANE_EXPORT SurfaceLocator
 {
 public:

@@ -87,9 +87,12 @@ void Topology::setVertexLimits(int vertices, int uvs)
 
 int Topology::cornerSlot(int face, int corner) const
 {
-    if (face < 0 || face >= FaceCount() || corner < 0 || corner >= CornersPerFace())
+    const int corners = CornersPerFace();
+    if (face < 0 || corner < 0 || corner >= corners)
         return -1;
-    return face * CornersPerFace() + corner;
+    // Asked for each corner of a mesh: a product is had sooner than the face count, a quotient.
+    const qint64 slot = qint64(face) * corners + corner;
+    return slot < m_corners.size() ? int(slot) : -1;
 }
 
 void Topology::setVertex(FaceType type, int face, int corner, int vertex)

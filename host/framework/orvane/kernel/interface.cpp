@@ -27,6 +27,8 @@ bool Interface::IsHUDMessageUp() const
     return false;
 }
 
+void Interface::ReportShow(const QString &) {}
+
 void Interface::RefreshUI() {}
 
 void Interface::SetBusy(bool) {}

@@ -50,6 +50,10 @@ public:
     //! Is a heads-up message still up?
     virtual bool IsHUDMessageUp() const;
 
+    //! What the latest operation made, in one line. It stays until the next takes its place; empty
+    //! takes it away.
+    virtual void ReportShow(const QString &text);
+
     //! Brings lists and panels up to date with the scene.
     virtual void RefreshUI();
     //! The user waits for an operation from now on, or no longer.

@@ -41,6 +41,8 @@ QString UndoQueue::RedoText() const
 
 QString UndoQueue::textOf(const UndoStep &step)
 {
+    if (!step.first().title.isEmpty())
+        return QCoreApplication::translate("UndoStep", step.first().title.toUtf8().constData());
     const QString className = step.first().className;
     const ClassDesc *desc = ClassDesc::ByName(className);
     const QByteArray text = (desc ? desc->DisplayName() : className).toUtf8();
@@ -60,6 +62,12 @@ void UndoQueue::Push(Operation *operation, bool merge)
     m_steps.last().append({operation->RuntimeClass()->Name(), bytesOf(operation)});
     m_position = m_steps.size();
     enforceLimits();
+}
+
+void UndoQueue::SetTitle(const QString &title)
+{
+    if (CanUndo() && m_steps[m_position - 1].first().title.isEmpty())
+        m_steps[m_position - 1].first().title = title;
 }
 
 void UndoQueue::enforceLimits()

@@ -16,6 +16,7 @@ struct OperationRecord
 {
     QString className;
     QByteArray bytes;
+    QString title = {}; // of the step that it begins; empty for the class's display text
 };
 
 //! What one undo takes back: the operations of a step, in the order they ran.
@@ -45,14 +46,17 @@ public:
     //! Do the steps stand where they stood when the scene was saved? False too when that place can
     //! no longer be reached.
     bool IsAtSaved() const { return m_saved == m_position; }
-    //! What undo or redo would undo or redo, for a menu: the class's display text in the user's
-    //! language, empty when there is nothing.
+    //! What undo or redo would undo or redo, for a menu: the step's title or else the display text
+    //! of its class, in the user's language; empty when there is nothing.
     QString UndoText() const;
     QString RedoText() const;
 
     //! Keeps an operation that has just run, and forgets what could have been redone.
     //! merge: as a part of the latest step, if there is one.
     void Push(Operation *operation, bool merge);
+    //! Calls the latest step what the user did: an English text of the translation context
+    //! "UndoStep". Ignored when there is none, and when the step has a title.
+    void SetTitle(const QString &title);
     //! Runs the latest step backwards, or the next one forwards. False when there is none or an
     //! operation answers false; the step then stays where it is.
     bool Undo();

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graph/boxlist.h"
+
+#include <orvane/math/vector.h>
+
+#include <QList>
+#include <QVector>
+
+namespace orvane {
+class OrvaneCurve;
+}
+
+//! One curve among the sampled ones.
+struct SampledCurve
+{
+    int firstSample = 0;
+    int lastSample = 0; // one past
+    int firstRun = 0;
+    int lastRun = 0; // one past
+    bool isClosed = false;
+    bool isNumber = false; // its box has no NaN for a side: only then can others meet it
+};
+
+const int RunLength = 16; // segments
+
+//! Up to RunLength consecutive segments of a curve. A segment has the number of its first sample.
+struct SegmentRun
+{
+    int first;
+    int last; // one past
+};
+
+//! The curves as the search sees them: samples, segments and runs of segments of all curves one
+//! after the other, numbered through.
+class SampledCurves
+{
+public:
+    //! distance (scene units): how far each box is grown on every side.
+    SampledCurves(const QList<orvane::OrvaneCurve *> &curves, float distance);
+
+    //! Appends the samples of the curve, the next in the list. A null curve has none.
+    void sample(int curve, float overrun);
+    //! Once every curve is sampled: puts boxes around the runs.
+    void makeRuns();
+
+    const QVector<SampledCurve> &curves() const { return m_sampled; }
+    const QVector<SegmentRun> &runs() const { return m_runs; }
+    //! Grown and snapped.
+    const BoxList &segmentBoxes() const { return m_segmentBoxes; }
+    const BoxList &runBoxes() const { return m_runBoxes; }
+
+    int sampleCount() const { return m_positions.size(); }
+    //! Its two ends.
+    const orvane::Vector *segment(int number) const { return m_positions.constData() + number; }
+    //! The curve that a sample is of.
+    int curveOf(int sample) const { return m_curveOf[sample]; }
+    //! Of the surface at a sample.
+    const orvane::Vector &normal(int sample);
+
+private:
+    void makeBoxes(SampledCurve &curve);
+
+    const QList<orvane::OrvaneCurve *> &m_curves;
+    float m_distance;
+    QVector<SampledCurve> m_sampled;
+    QVector<orvane::Vector> m_positions;
+    QVector<int> m_curveOf;            // by sample
+    QVector<int> m_points;             // by sample: the index of its point on the curve
+    QVector<orvane::Vector> m_normals; // by sample: NaN until someone asks
+    BoxList m_segmentBoxes;
+    QVector<SegmentRun> m_runs;
+    BoxList m_runBoxes;
+};
