@@ -23,8 +23,8 @@ const int SmoothingSteps = 4;   // count
 using Edit = std::function<CurveShape(const CurveShape &, const WorkSurface &)>;
 using Test = std::function<bool(const OrvaneCurve &)>;
 
-// Edits what is selected and passes the test. even: as evenly spaced as it was.
-bool editSelected(ToolContext &context, const Test &fits, const Edit &edit)
+// Edits what is selected and passes the test.
+bool editSelected(const char *title, ToolContext &context, const Test &fits, const Edit &edit)
 {
     QVector<OrvaneCurve *> curves;
     for (OrvaneCurve *curve : selectedCurves()) {
@@ -32,7 +32,7 @@ bool editSelected(ToolContext &context, const Test &fits, const Edit &edit)
             curves.append(curve);
     }
     CurveSpace space({curves.cbegin(), curves.cend()});
-    CurveStep step;
+    CurveStep step(title);
     for (const OrvaneCurve *curve : qAsConst(curves)) {
         const WorkSurface surface = surfaceOf(*curve, context);
         const CurveShape shape = edit(shapeOf(*curve), surface);
@@ -82,7 +82,8 @@ bool select(const Test &are)
 
 bool show(bool visible, const Test &are)
 {
-    CurveStep step;
+    CurveStep step(visible ? QT_TRANSLATE_NOOP("UndoStep", "Show Curves")
+                           : QT_TRANSLATE_NOOP("UndoStep", "Hide Curves"));
     return step.Show(sceneCurvesThat(are), visible);
 }
 
@@ -97,7 +98,7 @@ bool deleteSelectedCurves()
 bool duplicateSelectedCurves(ToolContext &context)
 {
     CurveSpace space;
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Duplicate Curves"));
     QVector<CurveShape> copies;
     for (const OrvaneCurve *curve : selectedCurves()) {
         const WorkSurface surface = surfaceOf(*curve, context);
@@ -131,7 +132,7 @@ bool mirrorSelectedCurves(ToolContext &context, int axis)
         else if (placesOf(both.first().points) != placesOf(shape.points))
             joined.insert(curve->ID(), both.first());
     }
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Mirror Curves"));
     const bool hasJoined = applyEdits(joined, step, context);
     CurveSpace space;
     for (const auto &partner : qAsConst(partners))
@@ -141,27 +142,29 @@ bool mirrorSelectedCurves(ToolContext &context, int axis)
 
 bool closeSelectedCurves(ToolContext &context)
 {
-    return editSelected(context, isOpen, [](const CurveShape &shape, const WorkSurface &surface) {
-        return evenLike(shape, closed(shape, *surface.locator), surface);
-    });
+    return editSelected(QT_TRANSLATE_NOOP("UndoStep", "Close Curves"), context, isOpen,
+                        [](const CurveShape &shape, const WorkSurface &surface) {
+                            return evenLike(shape, closed(shape, *surface.locator), surface);
+                        });
 }
 
 bool openSelectedCurves(ToolContext &context)
 {
-    return editSelected(context, isClosed,
+    return editSelected(QT_TRANSLATE_NOOP("UndoStep", "Open Curves"), context, isClosed,
                         [](const CurveShape &shape, const WorkSurface &) { return opened(shape); });
 }
 
 bool reverseSelectedCurves(ToolContext &context)
 {
-    return editSelected(context, isAny, [](const CurveShape &shape, const WorkSurface &surface) {
-        return reversed(shape, *surface.locator);
-    });
+    return editSelected(QT_TRANSLATE_NOOP("UndoStep", "Reverse Curves"), context, isAny,
+                        [](const CurveShape &shape, const WorkSurface &surface) {
+                            return reversed(shape, *surface.locator);
+                        });
 }
 
 bool resampleSelectedCurves(ToolContext &context)
 {
-    return editSelected(context, isAny,
+    return editSelected(QT_TRANSLATE_NOOP("UndoStep", "Space Evenly"), context, isAny,
                         [&context](const CurveShape &shape, const WorkSurface &surface) {
                             return resampled(shape, spacingOn(surface, context), *surface.locator);
                         });
@@ -169,9 +172,11 @@ bool resampleSelectedCurves(ToolContext &context)
 
 bool smoothSelectedCurves(ToolContext &context)
 {
-    return editSelected(context, isAny, [](const CurveShape &shape, const WorkSurface &surface) {
-        return evenLike(shape, smoothed(shape, SmoothingSteps, *surface.locator), surface);
-    });
+    return editSelected(QT_TRANSLATE_NOOP("UndoStep", "Smooth Curves"), context, isAny,
+                        [](const CurveShape &shape, const WorkSurface &surface) {
+                            return evenLike(
+                                shape, smoothed(shape, SmoothingSteps, *surface.locator), surface);
+                        });
 }
 
 bool joinSelectedCurves(ToolContext &context)
@@ -185,7 +190,7 @@ bool joinSelectedCurves(ToolContext &context)
     const CurveShape first = shapeOf(*curves[0]);
     const CurveShape whole = joined(first, shapeOf(*curves[1]), *surface.locator);
     CurveSpace space({curves[0], curves[1]});
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Join Curves"));
     step.Edit(*curves[0], space.Settle(evenLike(first, whole, surface), *surface.locator));
     return !step.IsEmpty() && step.Delete({curves[1]});
 }

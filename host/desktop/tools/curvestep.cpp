@@ -13,7 +13,6 @@
 #include <orvane/operations/selectoperation.h>
 #include <orvane/operations/showoperation.h>
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -30,7 +29,7 @@ QString freeCurveName()
         taken.insert(curve->Name());
     QString name;
     for (int number = 1; name.isEmpty() || taken.contains(name); ++number)
-        name = QCoreApplication::translate("CurveTools", "curve %1").arg(number);
+        name = QStringLiteral("curve %1").arg(number);
     return name;
 }
 
@@ -95,6 +94,8 @@ bool CurveStep::run(Operation *operation, bool interactive)
 {
     if (!Kernel()->DoOperation(operation, interactive, m_begun))
         return false;
+    if (m_title)
+        Kernel()->Undos().SetTitle(QString::fromUtf8(m_title));
     m_begun = true;
     return true;
 }

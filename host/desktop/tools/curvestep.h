@@ -13,6 +13,10 @@ class OrvaneCurve;
 class CurveStep
 {
 public:
+    //! title: for the Edit menu, a text of the translation context "UndoStep"; null leaves it to
+    //! the first operation.
+    explicit CurveStep(const char *title = nullptr) : m_title(title) {}
+
     //! A new curve, called "curve" and the lowest number that is free.
     bool Add(const CurveShape &shape, bool selected = false);
     bool Edit(const OrvaneCurve &curve, const CurveShape &shape);
@@ -26,6 +30,7 @@ public:
 private:
     bool run(Operation *operation, bool interactive);
 
+    const char *m_title;
     bool m_begun = false;
 };
 

@@ -38,7 +38,7 @@ void DrawTool::complete()
     const QVector<CurveShape> shapes = m_stroke->Finish(context());
     if (shapes.isEmpty())
         return;
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Draw Stroke"));
     addNewCurves(shapes, step, drawingSurface(context()), context());
 }
 

@@ -97,7 +97,7 @@ void EraseTool::complete()
     for (int id : m_touched.keys())
         curves.append(curveOfID(id));
     CurveSpace space(curves);
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Erase"));
     QVector<OrvaneCurve *> gone;
     for (auto it = m_touched.constBegin(); it != m_touched.constEnd(); ++it) {
         OrvaneCurve *curve = curveOfID(it.key());

@@ -91,7 +91,7 @@ void ExtendTool::complete()
     shape = closedIfBackAtStart(shape, surface, context());
     if (context().Settings().snap)
         shape = ranPast(shape, space, surface, context());
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Extend Curve"));
     step.Edit(*curve, space.Settle(shape, *surface.locator));
     for (const CurveShape &rest : finishedCurves(strokes.mid(1), space, surface, context()))
         step.Add(rest);

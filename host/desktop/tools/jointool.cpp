@@ -55,14 +55,14 @@ void JoinTool::complete()
     if (!second || !surface.IsUsable() || (first == second && m_from.last == m_to.last))
         return;
     if (first == second) {
-        CurveStep step;
+        CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Close Curve"));
         applyEdits({{first->ID(), closed(shapeOf(*first), *surface.locator)}}, step, context());
         return;
     }
     CurveSpace space({first, second});
     const CurveShape whole =
         joinedAt(shapeOf(*first), m_from.last, shapeOf(*second), m_to.last, surface);
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Join Curves"));
     if (step.Edit(*first, space.Settle(whole, *surface.locator)))
         step.Delete({second});
 }

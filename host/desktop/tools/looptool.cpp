@@ -95,7 +95,7 @@ void LoopTool::complete()
         context().ShowMessage(tr("No loop closes around the mesh here."));
         return;
     }
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Loop"));
     addNewCurves({shape}, step, surface, context());
 }
 

@@ -92,7 +92,7 @@ void MoveTool::complete()
     const OrvaneCurve *curve = curveOfID(m_curve);
     if (!curve || placesOf(m_shape.points) == placesOf(curve->Points()))
         return;
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Move Points"));
     applyEdits({{m_curve, m_shape}}, step, context());
 }
 

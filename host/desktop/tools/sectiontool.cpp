@@ -118,7 +118,7 @@ void SectionTool::complete()
     const QVector<CurveShape> shapes = cut(surface);
     if (shapes.isEmpty())
         return;
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Section Line"));
     addNewCurves(shapes, step, surface, context());
 }
 

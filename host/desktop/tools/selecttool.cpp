@@ -40,7 +40,7 @@ ToolDescription SelectTool::Description() const
 
 const OrvaneCurve *SelectTool::HoveredCurve() const
 {
-    return curveOfID(m_hovered);
+    return IsBusy() ? nullptr : curveOfID(m_hovered);
 }
 
 bool SelectTool::hover()

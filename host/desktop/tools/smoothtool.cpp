@@ -65,7 +65,7 @@ void SmoothTool::rub(const QPointF &pixel)
 
 void SmoothTool::complete()
 {
-    CurveStep step;
+    CurveStep step(QT_TRANSLATE_NOOP("UndoStep", "Smooth"));
     applyEdits(m_shapes, step, context());
 }
 

@@ -20,8 +20,9 @@ namespace orvane {
 
 namespace {
 
-// Between its corners a face of a new mesh runs below a round source.
-const double SagOfEdge = 0.2;    // fraction of its longest edge: the deepest that is expected
+// Between its corners a face of a new mesh runs below a round source. At the rim of a ball, where
+// the edge runs along the view, its middle lies half its length behind what is seen of the ball.
+const double SagOfEdge = 0.5;    // fraction of its longest edge
 const double LeastSinking = 2.0; // pixels
 const double MostSinking = 0.06; // fraction of the depth: or the far side would show through
 const double NearestEdge = 0.1;  // fraction of the pivot's depth, for what reaches behind the eye

@@ -25,7 +25,7 @@ CommandBar::CommandBar(QWidget *parent) : QWidget(parent), m_edit(new QLineEdit(
     m_edit->setPlaceholderText(tr("Type a recorded command and press Enter"));
     m_edit->setAccessibleName(tr("Command line"));
     m_edit->installEventFilter(this);
-    auto *label = new QLabel(tr("&Command:"), this);
+    auto *label = new QLabel(tr("C&ommand:"), this);
     label->setBuddy(m_edit);
     auto *macro = new QToolButton(this);
     macro->setObjectName(QStringLiteral("macroButton"));

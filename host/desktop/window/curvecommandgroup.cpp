@@ -137,7 +137,7 @@ void CurveCommandGroup::addShowing()
     add({"hideCurves", tr("&Hide Selected"), tr("Hide the selected curves; tools pass them by."),
          QKeySequence(Qt::CTRL + Qt::Key_H)},
         510, [] { hideSelectedCurves(); });
-    add({"hideOtherCurves", tr("Hide &Others"), tr("Hide the curves that are not selected.")}, 520,
+    add({"hideOtherCurves", tr("Hide O&thers"), tr("Hide the curves that are not selected.")}, 520,
         [] { hideUnselectedCurves(); });
     add({"showAllCurves", tr("Show &All"), tr("Show all curves."),
          QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_H)},

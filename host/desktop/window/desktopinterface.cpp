@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMainWindow>
 
 #include <utility>
@@ -70,6 +71,11 @@ void DesktopInterface::HUDMessageShow(const QString &text, int type, int millise
 bool DesktopInterface::IsHUDMessageUp() const
 {
     return m_parts.message->IsUp();
+}
+
+void DesktopInterface::ReportShow(const QString &text)
+{
+    m_parts.report->setText(text);
 }
 
 void DesktopInterface::RefreshUI()

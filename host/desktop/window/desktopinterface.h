@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
+class QLabel;
 class QMainWindow;
 
 namespace orvane {
@@ -29,6 +30,7 @@ public:
         Menus *menus = nullptr;
         ProgressDisplay *progress = nullptr;
         HudMessage *message = nullptr;
+        QLabel *report = nullptr;
     };
 
     //! The parts outlive it.
@@ -42,6 +44,7 @@ public:
     void ProgressEnd() override;
     void HUDMessageShow(const QString &text, int type, int milliseconds) override;
     bool IsHUDMessageUp() const override;
+    void ReportShow(const QString &text) override;
     //! Soon: once for any number of calls, and not before a running operation is through.
     void RefreshUI() override;
     void SetBusy(bool busy) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/desktop/window/desktoptoolcontext.h"
 
+#include "host/desktop/view/shownsurfaces.h"
 #include "host/desktop/viewport/viewportwidget.h"
 
 #include <orvane/kernel/interface.h>
@@ -21,12 +22,12 @@ const Camera &DesktopToolContext::ViewCamera() const
 
 const SurfaceLocator *DesktopToolContext::Locator(const Geometry &geometry)
 {
-    return m_viewport->Surfaces().LocatorOf(&geometry);
+    return locatorOf(&geometry);
 }
 
 SurfaceList DesktopToolContext::VisibleSurfaces()
 {
-    return m_viewport->Surfaces().Visible();
+    return shownSurfaces();
 }
 
 void DesktopToolContext::Repaint()

@@ -44,7 +44,7 @@ EditCommands::EditCommands(const Workbench &workbench)
          QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_I)},
         230, [] { invertCurveSelection(); });
     addSeparator(300);
-    add({"rename", tr("Re&name"), tr("Rename what is current in the scene list."),
+    add({"rename", tr("Rena&me"), tr("Rename what is current in the scene list."),
          QKeySequence(Qt::CTRL + Qt::Key_R)},
         305, [this] { bench().sceneList->RenameCurrent(); });
     add({"delete", tr("&Delete"),
@@ -73,6 +73,8 @@ void EditCommands::Undo()
     const QString step = Kernel()->Undos().UndoText();
     if (Kernel()->Undo())
         Kernel()->Interface()->HUDMessageShow(tr("Undone: %1").arg(step), 0, NoteTime);
+    else
+        Kernel()->Interface()->HUDMessageShow(tr("Not undone: %1").arg(step), 1, NoteTime);
     Kernel()->Interface()->RefreshUI();
 }
 
@@ -80,8 +82,11 @@ void EditCommands::Redo()
 {
     bench().tools->Cancel();
     const QString step = Kernel()->Undos().RedoText();
+    // A creation that is done again asks about faults again, and makes nothing when all is refused.
     if (Kernel()->Redo())
         Kernel()->Interface()->HUDMessageShow(tr("Done again: %1").arg(step), 0, NoteTime);
+    else
+        Kernel()->Interface()->HUDMessageShow(tr("Not done again: %1").arg(step), 1, NoteTime);
     Kernel()->Interface()->RefreshUI();
 }
 

@@ -44,9 +44,4 @@ LogWindow::~LogWindow()
     setLogSink({});
 }
 
-QString LogWindow::Text() const
-{
-    return m_text->toPlainText();
-}
-
 } // namespace orvane

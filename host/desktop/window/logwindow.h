@@ -16,8 +16,6 @@ public:
     explicit LogWindow(QWidget *parent);
     ~LogWindow() override;
 
-    QString Text() const;
-
 private:
     QPlainTextEdit *m_text;
 };

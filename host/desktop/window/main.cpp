@@ -11,6 +11,7 @@
 #include <orvane/kernel/pluginloader.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QSettings>
 #include <QStandardPaths>
@@ -67,6 +68,16 @@ QSettings *newSettings(const QTemporaryDir &folder, bool testMode)
     return new QSettings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
 }
 
+// Nobody is there to answer a dialog while a picture is to be taken: each is accepted.
+void acceptDialogs(QTimer &timer)
+{
+    QObject::connect(&timer, &QTimer::timeout, [] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    timer.start(DrawingTime / 4);
+}
+
 int takePicture(orvane::MainWindow &window, const QString &path)
 {
     QTimer::singleShot(DrawingTime, qApp, &QCoreApplication::quit);
@@ -93,6 +104,9 @@ int run(const orvane::Options &options, QSettings *settings)
     plugins.Load();
     plugins.Initialise();
     window.show();
+    QTimer answering;
+    if (!options.screenshot.isEmpty())
+        acceptDialogs(answering);
     if (options.recovery && options.screenshot.isEmpty())
         window.Files().OfferRecovery();
     window.Files().Open(options.files);

@@ -33,6 +33,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -50,6 +51,7 @@ namespace {
 const QSize FirstSize(1280, 720);
 const int ListWidth = 260; // pixels
 const int ToolIconSize = 24;
+const int LayoutPasses = 5; // a panel that grows pushes what is around it
 const QString GeometryKey = QStringLiteral("Window/geometry");
 
 QStringList localFiles(const QMimeData *data)
@@ -130,9 +132,12 @@ void MainWindow::makeCentre()
     setCentralWidget(centre);
 
     auto *progress = new ProgressDisplay(this);
+    auto *report = new QLabel(this);
+    report->setObjectName(QStringLiteral("report"));
+    statusBar()->addPermanentWidget(report);
     statusBar()->addPermanentWidget(progress);
     m_interface.reset(
-        new DesktopInterface({this, m_bench.menus, progress, new HudMessage(m_stack)}));
+        new DesktopInterface({this, m_bench.menus, progress, new HudMessage(m_stack), report}));
     m_context.reset(new DesktopToolContext(m_bench.viewport, &m_settings.tools));
     m_tools.reset(new ToolBox(*m_context));
     m_bench.context = m_context.data();
@@ -154,6 +159,7 @@ void MainWindow::makePanels()
     auto *dock = new QDockWidget(tr("Scene"), this);
     dock->setObjectName(QStringLiteral("sceneDock"));
     dock->setWidget(content);
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
     addDockWidget(Qt::RightDockWidgetArea, dock);
     resizeDocks({dock}, {ListWidth}, Qt::Horizontal);
     m_log = new LogWindow(this);
@@ -176,7 +182,10 @@ void MainWindow::makeToolBars()
     tools->setObjectName(QStringLiteral("toolBar"));
     tools->setMovable(false);
     tools->setIconSize({ToolIconSize, ToolIconSize});
-    tools->addActions(m_curves->ToolActions());
+    const QList<QAction *> actions = m_curves->ToolActions();
+    tools->addActions(actions);
+    for (QAction *action : actions)
+        tools->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // a bar would pass them by
     addToolBar(Qt::LeftToolBarArea, tools);
     m_strokeBar = new StrokeBar(&m_settings.tools, this);
     addToolBar(Qt::TopToolBarArea, m_strokeBar);
@@ -184,28 +193,32 @@ void MainWindow::makeToolBars()
 
 void MainWindow::addCommandLine()
 {
-    QAction *line = newAction(this, {"goToCommandLine", tr("&Command Line"), tr("Type a command."),
+    QAction *line = newAction(this, {"goToCommandLine", tr("Command Lin&e"), tr("Type a command."),
                                      QKeySequence(Qt::CTRL + Qt::Key_L)});
     connect(line, &QAction::triggered, this,
             [this] { m_commandBar->Edit()->setFocus(Qt::ShortcutFocusReason); });
-    QAction *macro = newAction(this, {"macro", tr("&Macro..."),
+    QAction *macro = newAction(this, {"macro", tr("Mac&ro..."),
                                       tr("What was recorded, to save, edit and replay."),
                                       QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_L)});
     connect(macro, &QAction::triggered, this, &MainWindow::showMacro);
     QAction *log = newAction(
-        this, {"log", tr("&Log"), tr("What was logged."), QKeySequence(Qt::CTRL + Qt::Key_G)});
+        this, {"log", tr("Lo&g"), tr("What was logged."), QKeySequence(Qt::CTRL + Qt::Key_G)});
     connect(log, &QAction::triggered, m_log, [this] {
         m_log->show();
         m_log->activateWindow();
     });
     QAction *list =
-        newAction(this, {"goToSceneList", tr("Scene &List"), tr("Take the keys to the scene list."),
+        newAction(this, {"goToSceneList", tr("Scene Lis&t"), tr("Take the keys to the scene list."),
                          QKeySequence(Qt::CTRL + Qt::Key_B)});
     connect(list, &QAction::triggered, this, [this] {
         findChild<QDockWidget *>(QStringLiteral("sceneDock"))->show();
         m_bench.sceneList->setFocus(Qt::ShortcutFocusReason);
     });
-    for (QAction *action : {list, line, macro, log}) {
+    QAction *panel = findChild<QDockWidget *>(QStringLiteral("sceneDock"))->toggleViewAction();
+    panel->setObjectName(QStringLiteral("scenePanel"));
+    panel->setText(tr("Scene Pa&nel"));
+    panel->setStatusTip(tr("Show the scene list and the numbers of the mesh."));
+    for (QAction *action : {panel, list, line, macro, log}) {
         m_view->AddPanel(action);
         addAction(action);
     }
@@ -217,8 +230,6 @@ void MainWindow::addCommandLine()
 void MainWindow::connectParts()
 {
     connect(m_interface.data(), &DesktopInterface::refreshed, this, &MainWindow::Refresh);
-    connect(m_bench.sceneList, &SceneList::sceneTouched, m_interface.data(),
-            &DesktopInterface::RefreshUI);
     connect(m_bench.document, &orvane::Document::changed, this, &MainWindow::showTitle);
     connect(m_bench.document, &orvane::Document::pathChanged, this, &MainWindow::showTitle);
     connect(m_bench.autosave, &Autosave::failed, this,
@@ -261,7 +272,8 @@ void MainWindow::Refresh()
 QImage MainWindow::Picture()
 {
     Refresh();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // lays panels out anew
+    for (int i = 0; i < LayoutPasses; ++i)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     m_bench.viewport->repaint();
     return grab().toImage();
 }
@@ -326,6 +338,7 @@ void MainWindow::showMacro()
 void MainWindow::showOpened()
 {
     m_bench.sceneList->BeginAnew();
+    m_interface->ReportShow(QString());
     Refresh();
     m_bench.viewport->FrameAll();
     m_bench.viewport->setFocus();

@@ -41,7 +41,6 @@ public:
     orvane::Document &Document() { return *m_bench.document; }
     ViewportWidget &Viewport() { return *m_bench.viewport; }
     ToolBox &Tools() { return *m_tools; }
-    DesktopInterface &HostInterface() { return *m_interface; }
     //! Brings lists, menus and titles up to date with the scene at once.
     void Refresh();
     //! A picture of the window as it is, once the view has been drawn.

@@ -14,9 +14,12 @@ namespace orvane {
 
 namespace {
 
-const int Steps = 1000;   // of the bar: the values themselves are 64-bit
-const int BarWidth = 180; // pixels
-const int ShowAgain = 40; // milliseconds between two looks at the bar
+const int Steps = 1000;    // of the bar: the values themselves are 64-bit
+const int BarWidth = 180;  // pixels
+const int ShowAgain = 40;  // milliseconds between two looks at the bar
+const int WaitFirst = 150; // milliseconds: sooner, a bar would only flash
+const int SameWork = 100;  // milliseconds between the phases of one operation
+const int WorkPerShow = 4; // times as long as the window took to paint
 
 } // namespace
 
@@ -41,47 +44,57 @@ QString ProgressDisplay::Text() const
     return m_label->text();
 }
 
-double ProgressDisplay::Part() const
-{
-    return double(m_bar->value()) / Steps;
-}
-
 void ProgressDisplay::Start(const QString &text, qint64 maximum)
 {
+    if (!m_running && (!m_sinceEnd.isValid() || m_sinceEnd.elapsed() > SameWork))
+        m_sinceBegin.start();
     m_running = true;
     m_maximum = std::max<qint64>(maximum, 1);
     m_label->setText(text);
     m_bar->setAccessibleDescription(text);
-    m_bar->setValue(0);
-    show();
-    showNow(true);
+    m_part = 0.0;
+    showNow();
 }
 
 void ProgressDisplay::Set(qint64 value)
 {
     if (!m_running)
         return;
-    const double part = double(value) / double(m_maximum);
-    m_bar->setValue(int(std::clamp(part, 0.0, 1.0) * Steps));
-    showNow(false);
+    m_part = std::clamp(double(value) / double(m_maximum), 0.0, 1.0);
+    showNow();
 }
 
 void ProgressDisplay::End()
 {
     m_running = false;
+    m_sinceEnd.start();
     hide();
 }
 
-// Painting goes through events of the window system; those of the user stay in their queue.
-void ProgressDisplay::showNow(bool always)
+bool ProgressDisplay::isTimeToShow() const
 {
-    if (m_showing || (!always && m_sinceShown.isValid() && m_sinceShown.elapsed() < ShowAgain))
+    return m_sinceBegin.elapsed() >= WaitFirst
+           && (!m_sinceShown.isValid()
+               || m_sinceShown.elapsed()
+                      >= std::max<qint64>(ShowAgain, WorkPerShow * m_timeToShow));
+}
+
+// Painting goes through events of the window system; those of the user stay in their queue. The bar
+// learns its value only here: it paints itself, and the window with it, at each change.
+void ProgressDisplay::showNow()
+{
+    if (m_showing || !isTimeToShow())
         return;
     const QScopedValueRollback<bool> showing(m_showing, true);
+    QElapsedTimer time;
+    time.start();
+    m_bar->setValue(int(m_part * Steps));
+    show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents
                                     | QEventLoop::ExcludeSocketNotifiers);
     repaint();
-    m_sinceShown.restart();
+    m_timeToShow = time.elapsed();
+    m_sinceShown.start();
 }
 
 } // namespace orvane

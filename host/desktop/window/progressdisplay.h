@@ -11,7 +11,8 @@ namespace orvane {
 
 //! The progress of an operation, in the status bar. It is seen to move although the operation does
 //! not come back to the event loop: windows are painted meanwhile, and nothing the user does with
-//! mouse or keys is delivered before the operation is through.
+//! mouse or keys is delivered before the operation is through. What is through at once is not
+//! shown at all, and painting takes no more than a fifth of the time.
 class ProgressDisplay : public QWidget
 {
     Q_OBJECT
@@ -22,7 +23,7 @@ public:
     bool IsRunning() const { return m_running; }
     QString Text() const;
     //! From 0 to 1.
-    double Part() const;
+    double Part() const { return m_part; }
 
     //! A phase takes the place of the one before.
     void Start(const QString &text, qint64 maximum);
@@ -31,12 +32,17 @@ public:
     void End();
 
 private:
-    void showNow(bool always);
+    bool isTimeToShow() const;
+    void showNow();
 
     QLabel *m_label;
     QProgressBar *m_bar;
+    QElapsedTimer m_sinceBegin; // of the first of phases that follow each other
+    QElapsedTimer m_sinceEnd;
     QElapsedTimer m_sinceShown;
+    qint64 m_timeToShow = 0; // the last time, milliseconds
     qint64 m_maximum = 0;
+    double m_part = 0.0;
     bool m_running = false;
     bool m_showing = false;
 };

@@ -10,6 +10,7 @@
 #include <orvane/kernel/scene.h>
 #include <orvane/operations/addoperations.h>
 #include <orvane/operations/deleteoperations.h>
+#include <orvane/operations/drawonoperation.h>
 #include <orvane/operations/renameoperation.h>
 #include <orvane/operations/selectoperation.h>
 #include <orvane/operations/showoperation.h>
@@ -25,6 +26,7 @@ namespace orvane {
 namespace {
 
 const int NodeNumber = Qt::UserRole;
+const int IconName = Qt::UserRole + 1;
 const int EyeWidth = 30; // pixels
 
 bool isHiddenNode(const Node &node)
@@ -61,6 +63,15 @@ QTreeWidgetItem *newGroup(QTreeWidget *list)
     group->setFirstColumnSpanned(true);
     group->setExpanded(true);
     return group;
+}
+
+// An icon comes from a file and equals no other: it is set only when it is another one.
+void setRowIcon(QTreeWidgetItem *row, int column, const QString &name)
+{
+    if (row->data(column, IconName).toString() == name)
+        return;
+    row->setData(column, IconName, name);
+    row->setIcon(column, desktopIcon(name));
 }
 
 // A mesh of a file is no creation.
@@ -174,9 +185,8 @@ void SceneList::DrawOnCurrent()
     const auto *geometry = dynamic_cast<Geometry *>(nodeOf(currentItem()));
     if (!geometry || geometry == Kernel()->Scene()->DrawingSurface())
         return;
-    Kernel()->Scene()->SetDrawingSurface(geometry);
-    Kernel()->Scene()->SetChanged(true);
-    emit sceneTouched();
+    DrawOnOperation operation(geometry);
+    Kernel()->DoOperation(&operation, true, false);
 }
 
 void SceneList::keyPressEvent(QKeyEvent *event)
@@ -219,20 +229,39 @@ QVector<Node *> SceneList::listed() const
     return nodes;
 }
 
+// Rows that stay are kept: making hundreds anew is felt.
 void SceneList::rebuild(const QVector<Node *> &nodes)
 {
     const int current = currentItem() ? currentItem()->data(NameColumn, NodeNumber).toInt() : 0;
-    qDeleteAll(m_rows);
-    m_rows.clear();
-    for (Node *node : nodes) {
-        const bool isGeometry = dynamic_cast<Geometry *>(node) != nullptr;
-        auto *row = new QTreeWidgetItem(isGeometry ? m_geometries : m_curves);
-        row->setData(NameColumn, NodeNumber, node->ID());
-        row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
-        m_rows.insert(node->ID(), row);
+    QHash<int, QTreeWidgetItem *> left;
+    left.swap(m_rows);
+    for (const Node *node : nodes)
+        m_rows.insert(node->ID(), left.take(node->ID()));
+    qDeleteAll(left);
+    int geometries = 0;
+    int curves = 0;
+    for (const Node *node : nodes) {
+        const bool isGeometry = dynamic_cast<const Geometry *>(node) != nullptr;
+        placeRow(node->ID(), isGeometry ? m_geometries : m_curves,
+                 isGeometry ? geometries++ : curves++);
     }
     if (QTreeWidgetItem *row = m_rows.value(current))
         setCurrentItem(row, NameColumn, QItemSelectionModel::NoUpdate);
+}
+
+void SceneList::placeRow(int number, QTreeWidgetItem *group, int place)
+{
+    QTreeWidgetItem *&row = m_rows[number];
+    if (row && group->child(place) == row)
+        return;
+    if (row) {
+        group->removeChild(row);
+    } else {
+        row = new QTreeWidgetItem; // owned by the group
+        row->setData(NameColumn, NodeNumber, number);
+        row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
+    }
+    group->insertChild(place, row);
 }
 
 void SceneList::fillRows(const QVector<Node *> &nodes)
@@ -250,9 +279,10 @@ void SceneList::fillRow(QTreeWidgetItem *row, Node &node)
     const bool surface = &node == scene->DrawingSurface();
     const bool isGeometry = dynamic_cast<Geometry *>(&node) != nullptr;
     row->setText(NameColumn, node.Name());
-    row->setIcon(NameColumn, desktopIcon(surface      ? QStringLiteral("surface")
-                                         : isGeometry ? QStringLiteral("mesh")
-                                                      : QStringLiteral("curve")));
+    setRowIcon(row, NameColumn,
+               surface      ? QStringLiteral("surface")
+               : isGeometry ? QStringLiteral("mesh")
+                            : QStringLiteral("curve"));
     QFont bold = font();
     bold.setBold(&node == scene->ActiveGeometry());
     row->setFont(NameColumn, bold);
@@ -261,8 +291,7 @@ void SceneList::fillRow(QTreeWidgetItem *row, Node &node)
     const int creation = m_creations.value(node.ID());
     row->setText(MarkColumn, creation > 0 ? QStringLiteral("#%1").arg(creation) : QString());
     row->setToolTip(MarkColumn, creation > 0 ? tr("From creation %1").arg(creation) : QString());
-    row->setIcon(EyeColumn,
-                 desktopIcon(hidden ? QStringLiteral("hidden") : QStringLiteral("shown")));
+    setRowIcon(row, EyeColumn, hidden ? QStringLiteral("hidden") : QStringLiteral("shown"));
     const QString eye = hidden ? tr("Hidden. Click to show.") : tr("Shown. Click to hide.");
     row->setToolTip(EyeColumn, eye);
     row->setData(EyeColumn, Qt::AccessibleTextRole, eye);

@@ -37,10 +37,6 @@ public:
     //! Curve tools draw on the geometry of the current row from now on.
     void DrawOnCurrent();
 
-signals:
-    //! The user changed something that no operation tells of.
-    void sceneTouched();
-
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -49,6 +45,7 @@ protected:
 private:
     QVector<Node *> listed() const;
     void rebuild(const QVector<Node *> &nodes);
+    void placeRow(int number, QTreeWidgetItem *group, int place);
     void fillRows(const QVector<Node *> &nodes);
     void fillRow(QTreeWidgetItem *row, Node &node);
     void noteCreations();

@@ -88,7 +88,7 @@ StartPage::StartPage(QWidget *parent)
 
     m_navigation->setObjectName(QStringLiteral("startNavigation"));
     m_navigation->setAccessibleName(tr("Navigation"));
-    m_navigation->setFixedWidth(ColumnWidth);
+    m_navigation->setMinimumWidth(ColumnWidth);
     for (const NavigationPreset preset :
          {NavigationPreset::AltDrag, NavigationPreset::MiddleDrag, NavigationPreset::Viewer})
         m_navigation->addItem(navigationName(preset));

@@ -17,6 +17,7 @@ namespace orvane {
 namespace {
 
 const int WidestName = 200; // pixels
+const int KeptFigures = 2;  // meshes
 
 const Geometry *shownGeometry()
 {
@@ -44,6 +45,21 @@ QString nameOfFaces(int corners)
     return StatisticsPanel::tr("Faces of %1 corners").arg(corners);
 }
 
+QString richTextOf(const MeshFigures &figures)
+{
+    QString rows = row(StatisticsPanel::tr("Vertices"), figures.vertices)
+                   + row(StatisticsPanel::tr("Faces"), figures.polygons);
+    for (int corners = 0; corners < figures.polygonsByCorners.size(); ++corners) {
+        if (figures.polygonsByCorners[corners] > 0)
+            rows += row(nameOfFaces(corners), figures.polygonsByCorners[corners]);
+    }
+    rows += row(StatisticsPanel::tr("Open edges"), figures.openEdges);
+    const QString faults = figures.faults.isEmpty() ? StatisticsPanel::tr("No faults")
+                                                    : figures.FaultTexts().join(QLatin1Char('\n'));
+    return QStringLiteral("<table>%1</table>%2")
+        .arg(rows, faults.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
+}
+
 } // namespace
 
 StatisticsPanel::StatisticsPanel(QWidget *parent) : QWidget(parent), m_text(new QLabel(this))
@@ -64,11 +80,11 @@ void StatisticsPanel::Refresh()
     const Geometry *geometry = shownGeometry();
     const Mesh *mesh = geometry ? geometry->CurrentLevel() : nullptr;
     if (!mesh) {
-        m_name.clear();
         m_text->setText(tr("No mesh yet."));
-    } else if (!isCurrent(geometry->Name(), *mesh)) {
-        show(geometry->Name(), *mesh);
+        return;
     }
+    const QString name = fontMetrics().elidedText(geometry->Name(), Qt::ElideRight, WidestName);
+    m_text->setText(QStringLiteral("<b>%1</b>").arg(name.toHtmlEscaped()) + figuresFor(*mesh));
 }
 
 QString StatisticsPanel::Text() const
@@ -76,31 +92,23 @@ QString StatisticsPanel::Text() const
     return m_text->text();
 }
 
-bool StatisticsPanel::isCurrent(const QString &name, const Mesh &mesh) const
+bool StatisticsPanel::Measured::IsOf(const Mesh &mesh) const
 {
-    return !m_name.isNull() && name == m_name && mesh.Positions() == m_positions
-           && mesh.Corners() == m_corners;
+    return mesh.Positions() == positions && mesh.Corners() == corners;
 }
 
-void StatisticsPanel::show(const QString &name, const Mesh &mesh)
+const QString &StatisticsPanel::figuresFor(const Mesh &mesh)
 {
-    m_name = name;
-    m_positions = mesh.Positions();
-    m_corners = mesh.Corners();
-    const MeshFigures figures = figuresOf(&mesh);
-    QString rows = row(tr("Vertices"), figures.vertices) + row(tr("Faces"), figures.polygons);
-    for (int corners = 0; corners < figures.polygonsByCorners.size(); ++corners) {
-        if (figures.polygonsByCorners[corners] > 0)
-            rows += row(nameOfFaces(corners), figures.polygonsByCorners[corners]);
+    for (int i = 0; i < m_measured.size(); ++i) {
+        if (!m_measured[i].IsOf(mesh))
+            continue;
+        m_measured.move(i, m_measured.size() - 1);
+        return m_measured.last().figures;
     }
-    rows += row(tr("Open edges"), figures.openEdges);
-    const QString faults =
-        figures.faults.isEmpty() ? tr("No faults") : figures.FaultTexts().join(QLatin1Char('\n'));
-    const QString shownName = fontMetrics().elidedText(name, Qt::ElideRight, WidestName);
-    m_text->setText(
-        QStringLiteral("<b>%1</b><table>%2</table>%3")
-            .arg(shownName.toHtmlEscaped(), rows,
-                 faults.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
+    if (m_measured.size() == KeptFigures)
+        m_measured.removeFirst();
+    m_measured.append({mesh.Positions(), mesh.Corners(), richTextOf(figuresOf(&mesh))});
+    return m_measured.last().figures;
 }
 
 } // namespace orvane

@@ -21,20 +21,26 @@ class StatisticsPanel : public QWidget
 public:
     explicit StatisticsPanel(QWidget *parent = nullptr);
 
-    //! Of the selected geometry, or else the active one. Measures again only when that is another
-    //! mesh, or it has changed.
+    //! Of the selected geometry, or else the active one. Measures only what is neither the mesh
+    //! shown last nor the one before: undo and redo go back and forth.
     void Refresh();
     QString Text() const;
 
 private:
-    bool isCurrent(const QString &name, const Mesh &mesh) const;
-    void show(const QString &name, const Mesh &mesh);
+    // What was measured; the vectors are shared with the mesh.
+    struct Measured
+    {
+        bool IsOf(const Mesh &mesh) const;
+
+        QVector<Vector> positions;
+        QVector<int> corners;
+        QString figures; // as rich text
+    };
+
+    const QString &figuresFor(const Mesh &mesh);
 
     QLabel *m_text;
-    // What the text was made of; the vectors are shared with the mesh.
-    QString m_name;
-    QVector<Vector> m_positions;
-    QVector<int> m_corners;
+    QVector<Measured> m_measured; // the latest last
 };
 
 } // namespace orvane

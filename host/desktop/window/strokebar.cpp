@@ -15,6 +15,20 @@ namespace {
 
 const double Percent = 100.0;
 
+// Takes numbers with a point, as the dialogs do in every language. A comma becomes one: read as a
+// mark of thousands, it would make 15 of 1,5.
+class NumberBox : public QDoubleSpinBox
+{
+public:
+    explicit NumberBox(QWidget *parent) : QDoubleSpinBox(parent) { setLocale(QLocale::c()); }
+
+    QValidator::State validate(QString &text, int &place) const override
+    {
+        text.replace(QLatin1Char(','), QLatin1Char('.'));
+        return QDoubleSpinBox::validate(text, place);
+    }
+};
+
 } // namespace
 
 StrokeBar::StrokeBar(ToolSettings *settings, QWidget *parent)
@@ -63,7 +77,7 @@ QDoubleSpinBox *StrokeBar::addNumber(const char *name, const QString &text, cons
                                      double least, double most, double step, int decimals)
 {
     auto *label = new QLabel(QStringLiteral(" %1 ").arg(text), this);
-    auto *box = new QDoubleSpinBox(this);
+    auto *box = new NumberBox(this);
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(text);
     box->setToolTip(tip);

@@ -13,6 +13,9 @@ namespace orvane {
 
 namespace {
 
+const double ReadableContrast = 4.5;
+const int MendingSteps = 20;
+
 // What the application began with; asked for before the first theme is set.
 struct Beginning
 {
@@ -71,6 +74,53 @@ QPalette paletteFrom(const Colours &colours)
     return palette;
 }
 
+struct TextOnGround
+{
+    QPalette::ColorRole text;
+    QPalette::ColorRole ground;
+};
+
+const TextOnGround Texts[] = {
+    {QPalette::WindowText, QPalette::Window},    {QPalette::Text, QPalette::Base},
+    {QPalette::Text, QPalette::AlternateBase},   {QPalette::ButtonText, QPalette::Button},
+    {QPalette::ButtonText, QPalette::Window},    {QPalette::ToolTipText, QPalette::ToolTipBase},
+    {QPalette::PlaceholderText, QPalette::Base}, {QPalette::Link, QPalette::Base},
+    {QPalette::Link, QPalette::Window},          {QPalette::LinkVisited, QPalette::Base}};
+
+QColor mixed(const QColor &from, const QColor &to, double part)
+{
+    return QColor::fromRgbF(from.redF() + (to.redF() - from.redF()) * part,
+                            from.greenF() + (to.greenF() - from.greenF()) * part,
+                            from.blueF() + (to.blueF() - from.blueF()) * part);
+}
+
+// The colour, or one as near to it as can be read beside the other.
+QColor readable(const QColor &colour, const QColor &other)
+{
+    // A faint text is often the usual one let through.
+    const QColor solid = mixed(other, colour, colour.alphaF());
+    const bool onLight = contrast(other, Qt::black) > contrast(other, Qt::white);
+    QColor found = solid;
+    for (int step = 1; step <= MendingSteps && contrast(found, other) < ReadableContrast; ++step)
+        found = mixed(solid, onLight ? Qt::black : Qt::white, double(step) / MendingSteps);
+    return found;
+}
+
+// What a system gives is not always readable: selected and faint texts above all.
+QPalette mended(QPalette palette)
+{
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        for (const TextOnGround &pair : Texts)
+            palette.setColor(
+                group, pair.text,
+                readable(palette.color(group, pair.text), palette.color(group, pair.ground)));
+        palette.setColor(group, QPalette::Highlight,
+                         readable(palette.color(group, QPalette::Highlight),
+                                  palette.color(group, QPalette::HighlightedText)));
+    }
+    return palette;
+}
+
 double luminance(const QColor &colour)
 {
     const auto linear = [](double value) {
@@ -92,7 +142,7 @@ QPalette paletteOf(Theme theme)
     case Theme::System:
         break;
     }
-    return beginning().palette;
+    return mended(beginning().palette);
 }
 
 void applyTheme(Theme theme)

@@ -11,7 +11,7 @@ enum class Theme {
     Dark
 };
 
-//! The colours of a theme; those of the system for System.
+//! The colours of a theme; those of the system for System, but for texts that could not be read.
 QPalette paletteOf(Theme theme);
 //! Gives the whole application the look of a theme, windows that are open too.
 void applyTheme(Theme theme);

@@ -109,7 +109,7 @@ void ViewCommands::addSwitches()
               240, &ViewOptions::dimSource);
     addOption({"curvePoints", tr("Curve P&oints"), tr("Show the points of curves.")}, 250,
               &ViewOptions::curvePoints);
-    addOption({"showGrid", tr("&Grid"), tr("Show a grid on the ground."),
+    addOption({"showGrid", tr("Gr&id"), tr("Show a grid on the ground."),
                QKeySequence(Qt::SHIFT + Qt::Key_G)},
               260, &ViewOptions::showGrid);
     addOption({"showGizmo", tr("Axes in the &Corner"), tr("Show which way is which.")}, 270,

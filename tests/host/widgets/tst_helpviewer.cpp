@@ -9,6 +9,8 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QImage>
+#include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -63,6 +65,15 @@ protected:
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(helpBrowser(), key, modifiers);
+    }
+    // As people do: Ctrl+F, the text, Enter.
+    static void search(const char *text)
+    {
+        press(Qt::Key_F, Qt::ControlModifier);
+        auto *edit = helpBrowser()->window()->findChild<QLineEdit *>(QStringLiteral("helpSearch"));
+        ASSERT_TRUE(edit && edit->hasFocus());
+        QTest::keyClicks(edit, QLatin1String(text));
+        QTest::keyClick(edit, Qt::Key_Return);
     }
     static void followTheLink()
     {
@@ -157,6 +168,52 @@ TEST_F(HelpViewerTest, linksToOtherPagesAreFollowedAndKeysGoBackForwardAndHome)
     EXPECT_EQ(helpText(), QStringLiteral("Second page"));
     press(Qt::Key_Home, Qt::AltModifier);
     EXPECT_TRUE(helpText().startsWith(QLatin1String("First page")));
+}
+
+TEST_F(HelpViewerTest, aSearchGoesThroughAllPagesAndRound)
+{
+    m_folder.write(QStringLiteral("Help/Third.md"),
+                   QStringLiteral("# Third page\n\nOne *ruler* and [a](ruler.md) second Ruler.\n"));
+    show("First");
+    search("ruler");
+    EXPECT_EQ(helpBrowser()->textCursor().selectedText(), QStringLiteral("ruler"));
+    EXPECT_TRUE(helpText().startsWith(QLatin1String("Third page")));
+    press(Qt::Key_F3);
+    EXPECT_EQ(helpBrowser()->textCursor().selectedText(), QStringLiteral("Ruler"));
+    const int second = helpBrowser()->textCursor().position();
+    press(Qt::Key_F3);
+    EXPECT_LT(helpBrowser()->textCursor().position(), second) << "round to the first one";
+    search("second");
+    EXPECT_TRUE(helpText().startsWith(QLatin1String("Third page")));
+    press(Qt::Key_F3);
+    EXPECT_TRUE(helpText().startsWith(QLatin1String("First page"))) << "after the last page";
+    press(Qt::Key_F3);
+    EXPECT_EQ(helpText(), QStringLiteral("Second page"));
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(helpText().startsWith(QLatin1String("First page")));
+}
+
+TEST_F(HelpViewerTest, aSearchThatFindsNothingSaysSoUntilItIsChanged)
+{
+    show("First");
+    const auto *outcome =
+        helpBrowser()->window()->findChild<QLabel *>(QStringLiteral("helpSearchOutcome"));
+    ASSERT_NE(outcome, nullptr);
+    search("Second.md"); // only the address of a link
+    EXPECT_EQ(outcome->text(), QStringLiteral("Nothing found."));
+    EXPECT_TRUE(helpText().startsWith(QLatin1String("First page")));
+    search("page");
+    EXPECT_TRUE(outcome->text().isEmpty());
+    EXPECT_EQ(helpBrowser()->textCursor().selectedText(), QStringLiteral("page"));
+}
+
+TEST_F(HelpViewerTest, aSearchReadsPagesInTheUsersLanguage)
+{
+    m_folder.write(QStringLiteral("Help/de/Second.md"), QStringLiteral("# Zweite Seite\n"));
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    show("First");
+    search("zweite");
+    EXPECT_EQ(helpText(), QStringLiteral("Zweite Seite"));
 }
 
 TEST_F(HelpViewerTest, aLinkToTheWebOpensTheSystemsBrowserAndLeavesThePage)

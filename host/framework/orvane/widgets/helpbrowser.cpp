@@ -4,6 +4,7 @@
 #include <orvane/base/log.h>
 
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
@@ -38,6 +39,32 @@ QString plainMarkdown(const QString &text)
 {
     static const QRegularExpression Punctuation(QStringLiteral("([!-/:-@\\[-`{-~])"));
     return text.simplified().replace(Punctuation, QStringLiteral("\\\\1"));
+}
+
+// All pages but the one that is shown, beginning with the one after it.
+QVector<QUrl> pagesAfter(const QUrl &shown)
+{
+    QVector<QUrl> pages;
+    QVector<QUrl> before;
+    const QStringList files =
+        QDir(QStringLiteral("Help")).entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
+    const QString name = QFileInfo(shown.toLocalFile()).fileName();
+    for (const QString &file : files) {
+        if (file != name)
+            (file > name ? pages : before)
+                .append(HelpBrowser::pageOf(QFileInfo(file).completeBaseName()));
+    }
+    return pages + before;
+}
+
+bool hasText(const QUrl &page, const QString &text)
+{
+    QFile file(page.toLocalFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QTextDocument document;
+    document.setMarkdown(QString::fromUtf8(file.readAll()));
+    return !document.find(text).isNull();
 }
 
 void layOutBlock(const QTextBlock &block)
@@ -100,6 +127,21 @@ QString HelpBrowser::heading() const
     return document()->firstBlock().text();
 }
 
+bool HelpBrowser::findNext(const QString &text)
+{
+    if (text.isEmpty() || find(text))
+        return !text.isEmpty();
+    const QVector<QUrl> others = pagesAfter(source());
+    for (const QUrl &page : others) {
+        if (!hasText(page, text))
+            continue;
+        setSource(page, QTextDocument::MarkdownResource);
+        return find(text);
+    }
+    moveCursor(QTextCursor::Start);
+    return find(text);
+}
+
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
     if (type != QTextDocument::MarkdownResource)
@@ -116,6 +158,14 @@ QVariant HelpBrowser::loadResource(int type, const QUrl &name)
     log(QStringLiteral("Help: no page for \"%1\" (%2).").arg(wanted, name.toString()));
     return tr("# No help on this yet\n\nThere is no page for %1. %2")
         .arg(plainMarkdown(QLatin1Char('"') + wanted + QLatin1Char('"')), plainMarkdown(reason));
+}
+
+// Links keep the colour they had when their page was read.
+void HelpBrowser::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty())
+        reload();
 }
 
 // A page is written without a look of its own, so that it reads well in every palette.

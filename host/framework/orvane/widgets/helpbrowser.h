@@ -18,9 +18,14 @@ public:
     static QUrl pageOf(const QString &identifier);
     //! The first line of the page.
     QString heading() const;
+    //! Selects the next place that has the text, in small or capital letters: on this page, then
+    //! on the pages after it in the order of their names, and round to where it began. False when
+    //! no page has it.
+    bool findNext(const QString &text);
 
 protected:
     QVariant loadResource(int type, const QUrl &name) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void layOut();

@@ -7,6 +7,8 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -16,6 +18,7 @@ namespace orvane {
 namespace {
 
 const QSize PreferredSize(720, 760); // pixels
+const int SearchWidth = 220;         // pixels
 
 class HelpViewer : public QWidget
 {
@@ -27,7 +30,8 @@ public:
     void open(const QUrl &page);
 
 private:
-    QWidget *createToolBar();
+    QToolBar *createToolBar();
+    void addSearch(QToolBar *bar);
 
     HelpBrowser *m_browser;
     QUrl m_home; // the page that was asked for last
@@ -40,7 +44,9 @@ HelpViewer::HelpViewer(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(createToolBar());
+    QToolBar *bar = createToolBar();
+    addSearch(bar);
+    layout->addWidget(bar);
     layout->addWidget(m_browser);
     connect(m_browser, &QTextBrowser::sourceChanged, this,
             [this]() { setWindowTitle(tr("%1 - Help").arg(m_browser->heading())); });
@@ -53,7 +59,7 @@ HelpViewer::HelpViewer(QWidget *parent)
     resize(PreferredSize);
 }
 
-QWidget *HelpViewer::createToolBar()
+QToolBar *HelpViewer::createToolBar()
 {
     auto *bar = new QToolBar(this);
     QAction *back = bar->addAction(tr("Back"), m_browser, &QTextBrowser::backward);
@@ -71,6 +77,38 @@ QWidget *HelpViewer::createToolBar()
     connect(home, &QAction::triggered, this,
             [this]() { m_browser->setSource(m_home, QTextDocument::MarkdownResource); });
     return bar;
+}
+
+void HelpViewer::addSearch(QToolBar *bar)
+{
+    auto *text = new QLineEdit(bar);
+    text->setObjectName(QStringLiteral("helpSearch"));
+    text->setPlaceholderText(tr("Search all pages"));
+    text->setAccessibleName(text->placeholderText());
+    text->setClearButtonEnabled(true);
+    text->setMaximumWidth(SearchWidth);
+    auto *outcome = new QLabel(bar);
+    outcome->setObjectName(QStringLiteral("helpSearchOutcome"));
+    bar->addSeparator();
+    bar->addWidget(text);
+    bar->addWidget(outcome);
+    connect(text, &QLineEdit::textEdited, outcome, &QLabel::clear);
+    const auto search = [this, text, outcome] {
+        const bool found = text->text().isEmpty() || m_browser->findNext(text->text());
+        outcome->setText(found ? QString() : tr("Nothing found."));
+    };
+    connect(text, &QLineEdit::returnPressed, this, search);
+
+    auto *begin = new QAction(this);
+    begin->setShortcuts(QKeySequence::Find);
+    connect(begin, &QAction::triggered, text, [text] {
+        text->setFocus(Qt::ShortcutFocusReason);
+        text->selectAll();
+    });
+    auto *next = new QAction(this);
+    next->setShortcuts(QKeySequence::FindNext);
+    connect(next, &QAction::triggered, this, search);
+    addActions({begin, next});
 }
 
 void HelpViewer::open(const QUrl &page)

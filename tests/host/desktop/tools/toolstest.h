@@ -7,7 +7,7 @@
 #include "host/desktop/tools/toolbox.h"
 #include "host/desktop/tools/toolcontext.h"
 #include "host/desktop/view/camera.h"
-#include "host/desktop/view/surfacecache.h"
+#include "host/desktop/view/shownsurfaces.h"
 
 #include <orvane/math/matrix.h>
 
@@ -27,15 +27,14 @@ public:
     const orvane::ToolSettings &Settings() const override { return settings; }
     const orvane::SurfaceLocator *Locator(const orvane::Geometry &geometry) override
     {
-        return surfaces.LocatorOf(&geometry);
+        return orvane::locatorOf(&geometry);
     }
-    orvane::SurfaceList VisibleSurfaces() override { return surfaces.Visible(); }
+    orvane::SurfaceList VisibleSurfaces() override { return orvane::shownSurfaces(); }
     void Repaint() override { ++repaints; }
     void ShowMessage(const QString &text) override { messages.append(text); }
 
     orvane::Camera camera;
     orvane::ToolSettings settings;
-    orvane::SurfaceCache surfaces;
     int repaints = 0;
     QStringList messages;
 };

@@ -64,6 +64,42 @@ TEST_F(CurveCommandsTest, nothingSelectedIsNothingDone)
     });
 }
 
+TEST_F(CurveCommandsTest, everyStepIsCalledWhatTheUserDid)
+{
+    const auto last = [] {
+        return Kernel()->Undos().UndoText().toStdString();
+    };
+    EXPECT_EQ(last(), "Draw Stroke");
+    select({0, 1});
+    EXPECT_TRUE(reverseSelectedCurves(context));
+    EXPECT_EQ(last(), "Reverse Curves");
+    EXPECT_TRUE(closeSelectedCurves(context));
+    EXPECT_EQ(last(), "Close Curves");
+    EXPECT_TRUE(openSelectedCurves(context));
+    EXPECT_EQ(last(), "Open Curves");
+    EXPECT_TRUE(mirrorSelectedCurves(context, 1));
+    EXPECT_EQ(last(), "Mirror Curves");
+    EXPECT_TRUE(smoothSelectedCurves(context));
+    EXPECT_EQ(last(), "Smooth Curves");
+    EXPECT_TRUE(hideSelectedCurves());
+    EXPECT_EQ(last(), "Hide Curves");
+    EXPECT_TRUE(showAllCurves());
+    EXPECT_EQ(last(), "Show Curves");
+    EXPECT_TRUE(duplicateSelectedCurves(context));
+    EXPECT_EQ(last(), "Duplicate Curves");
+    EXPECT_TRUE(deleteSelectedCurves());
+    EXPECT_EQ(last(), "Delete Curve");
+    take("erase");
+    drag(line({480.0, 360.0}, {520.0, 360.0}));
+    EXPECT_EQ(last(), "Erase");
+    take("move");
+    drag(line({600.0, 460.0}, {600.0, 470.0}));
+    EXPECT_EQ(last(), "Move Points");
+    take("section");
+    drag({{500.0, 500.0}, {760.0, 520.0}});
+    EXPECT_EQ(last(), "Section Line");
+}
+
 TEST_F(CurveCommandsTest, deleteTakesTheSelectedAway)
 {
     select({0, 2});

@@ -416,7 +416,7 @@ protected:
     CoarseCurveTest()
     {
         show(gridOfQuads(10, 10));
-        const SurfaceLocator &surface = *context.surfaces.Visible().first();
+        const SurfaceLocator &surface = *context.VisibleSurfaces().first();
         auto *curve = new OrvaneCurve; // the scene's
         for (const Vector &corner :
              {Vector(1, 1, 0), Vector(9, 1, 0), Vector(9, 9, 0), Vector(1, 9, 0)})

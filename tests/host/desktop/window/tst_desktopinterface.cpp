@@ -9,6 +9,7 @@
 
 #include <orvane/kernel/kernel.h>
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QtTest>
@@ -30,7 +31,7 @@ protected:
         : m_menus(m_window.menuBar()),
           m_progress(&m_window),
           m_message(&m_window),
-          m_interface({&m_window, &m_menus, &m_progress, &m_message})
+          m_interface({&m_window, &m_menus, &m_progress, &m_message, &m_report})
     {
         m_menus.AddMenu(QStringLiteral("Mesh"), QStringLiteral("&Mesh"));
         m_menus.AddMenu(QStringLiteral("Help"), QStringLiteral("&Help"));
@@ -41,6 +42,7 @@ protected:
     Menus m_menus;
     ProgressDisplay m_progress;
     HudMessage m_message;
+    QLabel m_report;
     DesktopInterface m_interface;
 };
 
@@ -67,6 +69,15 @@ TEST_F(DesktopInterfaceTest, aMenuItemOfAPlugInRunsItsCallback)
     QMenu *deep = m_menus.Menu(QStringLiteral("Mesh"))->actions().value(0)->menu();
     ASSERT_NE(deep, nullptr);
     EXPECT_EQ(deep->actions().value(0), action);
+}
+
+TEST_F(DesktopInterfaceTest, aReportStaysUntilTheNext)
+{
+    Kernel()->Interface()->ReportShow(QStringLiteral("Faces: 3."));
+    QTest::qWait(10);
+    EXPECT_EQ(m_report.text(), QStringLiteral("Faces: 3."));
+    Kernel()->Interface()->ReportShow(QString());
+    EXPECT_TRUE(m_report.text().isEmpty());
 }
 
 TEST_F(DesktopInterfaceTest, refreshingIsDoneOnceAndSoon)

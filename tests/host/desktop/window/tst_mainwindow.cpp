@@ -5,6 +5,7 @@
 #include "host/desktop/tools/toolbox.h"
 #include "host/desktop/viewport/viewportwidget.h"
 #include "host/desktop/window/filecommands.h"
+#include "host/desktop/window/hudmessage.h"
 #include "host/desktop/window/preferencesdialog.h"
 #include "host/desktop/window/scenelist.h"
 #include "host/desktop/window/startpage.h"
@@ -212,6 +213,24 @@ TEST_F(MainWindowTest, undoNamesTheStep)
     EXPECT_TRUE(action("redo")->text().contains(step));
     press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Kernel()->Scene()->NodeAt(0)->Name(), QStringLiteral("Other"));
+}
+
+TEST_F(MainWindowTest, aStepThatCannotBeDoneAgainIsToldAndKept)
+{
+    openAndChange();
+    const QString step = Kernel()->Undos().UndoText();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    auto *message = m_window->findChild<orvane::HudMessage *>(QStringLiteral("hudMessage"));
+    EXPECT_TRUE(message->Text().contains(QStringLiteral("Undone: ") + step));
+    orvane::Geometry *cube = Kernel()->Scene()->Geometries().constFirst();
+    const orvane::ScenePlace place = Kernel()->Scene()->PlaceOf(cube);
+    Kernel()->Scene()->Remove(cube);
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(message->Text().contains(QStringLiteral("Not done again: ") + step));
+    EXPECT_TRUE(action("redo")->isEnabled());
+    ASSERT_TRUE(Kernel()->Scene()->Restore(cube, place));
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(cube->Name(), QStringLiteral("Other"));
 }
 
 TEST_F(MainWindowTest, theTitleTellsOfUnsavedWork)

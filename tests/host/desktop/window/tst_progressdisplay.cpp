@@ -18,11 +18,14 @@ class Counter : public QPushButton
 {
 public:
     int paints = 0;
+    int slowness = 0; // milliseconds a picture
 
 protected:
     void paintEvent(QPaintEvent *event) override
     {
         ++paints;
+        if (slowness > 0)
+            QTest::qSleep(slowness);
         QPushButton::paintEvent(event);
     }
 };
@@ -54,13 +57,57 @@ TEST_F(ProgressDisplayTest, windowsArePaintedMeanwhile)
     m_progress->Start(QStringLiteral("stage"), 100);
     const int before = m_counter->paints;
     m_counter->update();
-    QTest::qSleep(60);
+    QTest::qSleep(200);
     m_progress->Set(50);
     EXPECT_GT(m_counter->paints, before);
     EXPECT_NEAR(m_progress->Part(), 0.5, 0.001);
     EXPECT_TRUE(m_progress->isVisible());
     m_progress->End();
     EXPECT_FALSE(m_progress->isVisible());
+}
+
+TEST_F(ProgressDisplayTest, whatIsThroughAtOnceIsNotShown)
+{
+    const int before = m_counter->paints;
+    m_counter->update();
+    for (int phase = 0; phase < 3; ++phase) {
+        m_progress->Start(QStringLiteral("stage"), 2);
+        m_progress->Set(1);
+        EXPECT_FALSE(m_progress->isVisible());
+        m_progress->End();
+    }
+    EXPECT_EQ(m_counter->paints, before);
+}
+
+TEST_F(ProgressDisplayTest, manyShortPhasesAreOneLongWork)
+{
+    int shown = 0;
+    for (int phase = 0; phase < 40; ++phase) {
+        m_progress->Start(QStringLiteral("stage"), 2);
+        QTest::qSleep(10);
+        m_progress->Set(1);
+        shown += m_progress->isVisible();
+        m_progress->End();
+    }
+    EXPECT_GT(shown, 0);
+}
+
+// The counter stands for a view that takes long to draw.
+TEST_F(ProgressDisplayTest, aSlowWindowIsPaintedTheMoreSeldom)
+{
+    m_counter->slowness = 50;
+    m_progress->Start(QStringLiteral("stage"), 1000);
+    const int before = m_counter->paints;
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < 1500) {
+        m_counter->update();
+        m_progress->Set(time.elapsed());
+        QTest::qSleep(1);
+    }
+    m_progress->End();
+    EXPECT_GT(m_counter->paints, before);
+    EXPECT_LE(m_counter->paints - before, 7) << "1500 ms, 50 for a picture, 200 between two";
 }
 
 TEST_F(ProgressDisplayTest, hugeAndStrayValuesAreHeld)

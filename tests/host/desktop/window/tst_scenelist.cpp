@@ -14,10 +14,14 @@
 #include <orvane/kernel/kernel.h>
 #include <orvane/kernel/scene.h>
 #include <orvane/operations/addoperations.h>
+#include <orvane/operations/deleteoperations.h>
 #include <orvane/operations/selectoperation.h>
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QtTest>
 
@@ -84,6 +88,28 @@ protected:
         ASSERT_TRUE(Kernel()->Undo());
         QTest::qWait(10);
     }
+    // Of the current row, as its menu key opens it.
+    void chooseFromContextMenu(const QString &entry)
+    {
+        bool chosen = false;
+        QTimer::singleShot(50, [&] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (QAction *action : menu->actions()) {
+                if (action->text() != entry)
+                    continue;
+                chosen = true;
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                return;
+            }
+            menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5),
+                                m_list->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(m_list->viewport(), &event);
+        EXPECT_TRUE(chosen) << qPrintable(entry);
+        QTest::qWait(10);
+    }
     QString text(const orvane::Node *node, int column = SceneList::NameColumn)
     {
         return m_list->RowOf(node)->text(column);
@@ -147,6 +173,23 @@ TEST_F(SceneListTest, theSelectionOfTheSceneIsShown)
     EXPECT_TRUE(m_list->RowOf(m_shell)->isSelected());
     EXPECT_FALSE(m_list->RowOf(m_curves[0])->isSelected());
     EXPECT_EQ(Kernel()->Undos().Position(), 1) << "showing a selection is no step of its own";
+}
+
+TEST_F(SceneListTest, rowsThatStayAreKeptAndOthersComeWhereTheyBelong)
+{
+    const QTreeWidgetItem *first = m_list->RowOf(m_curves[0]);
+    const QTreeWidgetItem *last = m_list->RowOf(m_curves[2]);
+    orvane::DeleteCurveOperation operation({m_curves[1]});
+    ASSERT_TRUE(Kernel()->DoOperation(&operation, true, false));
+    QTest::qWait(10);
+    const QTreeWidgetItem *curves = m_list->topLevelItem(1);
+    EXPECT_EQ(curves->childCount(), 2);
+    undo();
+    ASSERT_EQ(curves->childCount(), 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(curves->child(i)->text(0), QStringLiteral("curve%1").arg(i));
+    EXPECT_EQ(curves->child(0), first);
+    EXPECT_EQ(curves->child(2), last);
 }
 
 TEST_F(SceneListTest, arrowKeysSelect)
@@ -233,16 +276,22 @@ TEST_F(SceneListTest, deletingMeshesAndCurvesIsOneStep)
     EXPECT_EQ(m_list->topLevelItem(0)->childCount(), 2);
 }
 
-TEST_F(SceneListTest, anotherMeshCanBeDrawnOn)
+TEST_F(SceneListTest, anotherMeshCanBeDrawnOnAndThatCanBeUndone)
 {
     click(m_shell, SceneList::NameColumn);
-    QSignalSpy touched(m_list, &SceneList::sceneTouched);
-    m_list->DrawOnCurrent();
-    m_list->Refresh();
-    EXPECT_EQ(touched.count(), 1);
+    const int before = Kernel()->Undos().Position();
+    chooseFromContextMenu(QStringLiteral("Draw on This Mesh"));
     EXPECT_EQ(Kernel()->Scene()->DrawingSurface(), m_shell);
     EXPECT_TRUE(isMarked(m_shell));
     EXPECT_FALSE(isMarked(m_head));
+    EXPECT_EQ(Kernel()->Undos().Position(), before + 1);
+    EXPECT_EQ(Kernel()->Undos().UndoText(), QStringLiteral("Choose Mesh to Draw On"));
+    undo();
+    EXPECT_TRUE(isMarked(m_head));
+    EXPECT_FALSE(isMarked(m_shell));
+    ASSERT_TRUE(Kernel()->Redo());
+    QTest::qWait(10);
+    EXPECT_TRUE(isMarked(m_shell));
 }
 
 TEST_F(SceneListTest, groupRowsAreNoNodes)

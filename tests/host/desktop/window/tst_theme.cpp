@@ -55,6 +55,26 @@ TEST(Theme, everyTextIsReadable)
     }
 }
 
+// Text of what is disabled is the system's own affair.
+TEST(Theme, everyTextIsReadableInTheColoursOfTheSystem)
+{
+    const QPalette palette = paletteOf(Theme::System);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        for (const Pair &pair : Pairs) {
+            if (pair.text == QPalette::BrightText)
+                continue; // systems mean it for dark grounds; no text here has it
+            const QColor text = palette.color(group, pair.text);
+            EXPECT_EQ(text.alpha(), 255) << pair.text;
+            EXPECT_GE(contrast(text, palette.color(group, pair.ground)), Readable)
+                << "group " << group << " role " << pair.text << " on " << pair.ground;
+        }
+    }
+    EXPECT_GT(contrast(palette.color(QPalette::Active, QPalette::Text),
+                       palette.color(QPalette::Active, QPalette::PlaceholderText)),
+              1.5)
+        << "a placeholder looks typed";
+}
+
 TEST(Theme, disabledTextIsTold)
 {
     for (const Theme theme : {Theme::Light, Theme::Dark}) {
