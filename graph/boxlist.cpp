@@ -27,20 +27,19 @@ AxisAlignedBoundingBox BoxList::around(int first, int last) const
 void BoxList::resize(int size)
 {
     m_size = size;
-    for (int axis = 0; axis < 3; ++axis) {
-        m_minimum[axis].resize(std::size_t(size + BoxLanes));
-        m_maximum[axis].resize(std::size_t(size + BoxLanes));
-    }
+    m_blocks.resize(std::size_t((size + BoxLanes - 1) / BoxLanes));
 }
 
 void BoxList::set(int i, const AxisAlignedBoundingBox &box)
 {
-    m_minimum[0][i] = box.minimum.x;
-    m_minimum[1][i] = box.minimum.y;
-    m_minimum[2][i] = box.minimum.z;
-    m_maximum[0][i] = box.maximum.x;
-    m_maximum[1][i] = box.maximum.y;
-    m_maximum[2][i] = box.maximum.z;
+    BoxBlock &block = m_blocks[std::size_t(i / BoxLanes)];
+    const int lane = i % BoxLanes;
+    block.minimum[0][lane] = box.minimum.x;
+    block.minimum[1][lane] = box.minimum.y;
+    block.minimum[2][lane] = box.minimum.z;
+    block.maximum[0][lane] = box.maximum.x;
+    block.maximum[1][lane] = box.maximum.y;
+    block.maximum[2][lane] = box.maximum.z;
 }
 
 bool isNumber(const AxisAlignedBoundingBox &box)

@@ -10,19 +10,30 @@ class BoxList
 {
 public:
     BoxList() = default;
-    explicit BoxList(int size) { resize(size); }
+    explicit BoxList(int size, Lanes lanes = widestLanes()) : m_test(boxTest(lanes))
+    {
+        resize(size);
+    }
 
     int size() const { return m_size; }
     orvane::AxisAlignedBoundingBox at(int i) const
     {
+        const BoxBlock &block = m_blocks[std::size_t(i / BoxLanes)];
+        const int lane = i % BoxLanes;
         orvane::AxisAlignedBoundingBox box;
-        box.minimum = {m_minimum[0][i], m_minimum[1][i], m_minimum[2][i]};
-        box.maximum = {m_maximum[0][i], m_maximum[1][i], m_maximum[2][i]};
+        box.minimum = {block.minimum[0][lane], block.minimum[1][lane], block.minimum[2][lane]};
+        box.maximum = {block.maximum[0][lane], block.maximum[1][lane], block.maximum[2][lane]};
         return box;
     }
-    //! Smallest and largest coordinates along an axis, by box.
-    const float *minimum(int axis) const { return m_minimum[axis].data(); }
-    const float *maximum(int axis) const { return m_maximum[axis].data(); }
+    //! Smallest and largest coordinate of a box along an axis.
+    float minimum(int i, int axis) const
+    {
+        return m_blocks[std::size_t(i / BoxLanes)].minimum[axis][i % BoxLanes];
+    }
+    float maximum(int i, int axis) const
+    {
+        return m_blocks[std::size_t(i / BoxLanes)].maximum[axis][i % BoxLanes];
+    }
     //! The box around those of [first, last). One with a side that is not a number overlaps
     //! nothing and counts for nothing.
     orvane::AxisAlignedBoundingBox around(int first, int last) const;
@@ -34,16 +45,20 @@ public:
     //! and answers how many they are. hits has room for last - first + BoxLanes numbers.
     int overlapping(int first, int last, const orvane::AxisAlignedBoundingBox &box, int *hits) const
     {
-        const BoxColumns columns = {{minimum(0), minimum(1), minimum(2)},
-                                    {maximum(0), maximum(1), maximum(2)}};
-        return m_test(columns, first, last, box, hits);
+        const BoxSpan span = {first, last};
+        return overlapping(&span, 1, box, hits);
+    }
+    //! The same for several spans at a time.
+    int overlapping(const BoxSpan *spans, int spanCount, const orvane::AxisAlignedBoundingBox &box,
+                    int *hits) const
+    {
+        return m_test(m_blocks.data(), spans, spanCount, box, hits);
     }
 
 private:
     BoxTest m_test = boxTest(widestLanes());
     int m_size = 0;
-    std::vector<float> m_minimum[3]; // longer than the list by BoxLanes
-    std::vector<float> m_maximum[3];
+    std::vector<BoxBlock> m_blocks;
 };
 
 //! Is no side of the box a NaN?

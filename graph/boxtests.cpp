@@ -13,26 +13,31 @@ using orvane::AxisAlignedBoundingBox;
 
 namespace {
 
-int testOne(const BoxColumns &boxes, int first, int last, const AxisAlignedBoundingBox &box,
-            int *hits)
+int testOne(const BoxBlock *blocks, const BoxSpan *spans, int spanCount,
+            const AxisAlignedBoundingBox &box, int *hits)
 {
     int count = 0;
-    for (int i = first; i < last; ++i) {
-        AxisAlignedBoundingBox other;
-        other.minimum = {boxes.minimum[0][i], boxes.minimum[1][i], boxes.minimum[2][i]};
-        other.maximum = {boxes.maximum[0][i], boxes.maximum[1][i], boxes.maximum[2][i]};
-        if (snappedBoxesOverlap(box, other))
-            hits[count++] = i;
+    for (const BoxSpan *span = spans; span < spans + spanCount; ++span) {
+        for (int i = span->first; i < span->last; ++i) {
+            const BoxBlock &b = blocks[i / BoxLanes];
+            const int lane = i % BoxLanes;
+            AxisAlignedBoundingBox other;
+            other.minimum = {b.minimum[0][lane], b.minimum[1][lane], b.minimum[2][lane]};
+            other.maximum = {b.maximum[0][lane], b.maximum[1][lane], b.maximum[2][lane]};
+            if (snappedBoxesOverlap(box, other))
+                hits[count++] = i;
+        }
     }
     return count;
 }
 
 #ifdef QUILLMESH_WIDE_LANES
 
-// One bit for each lane that still holds a box.
-unsigned lanesBefore(int last, int i)
+// One bit for each lane, the first of which is box i, that holds a box of the span.
+unsigned lanesWithin(const BoxSpan &span, int i)
 {
-    return last - i < BoxLanes ? (1u << (last - i)) - 1u : ~0u;
+    const unsigned begun = span.first > i ? ~0u << (span.first - i) : ~0u;
+    return span.last - i < BoxLanes ? begun & ((1u << (span.last - i)) - 1u) : begun;
 }
 
 inline int *appendHits(int *hits, int first, unsigned lanes)
@@ -42,28 +47,31 @@ inline int *appendHits(int *hits, int first, unsigned lanes)
     return hits;
 }
 
-int testFour(const BoxColumns &boxes, int first, int last, const AxisAlignedBoundingBox &box,
-             int *hits)
+int testFour(const BoxBlock *blocks, const BoxSpan *spans, int spanCount,
+             const AxisAlignedBoundingBox &box, int *hits)
 {
     const __m128 low[] = {_mm_set1_ps(box.minimum.x), _mm_set1_ps(box.minimum.y),
                           _mm_set1_ps(box.minimum.z)};
     const __m128 high[] = {_mm_set1_ps(box.maximum.x), _mm_set1_ps(box.maximum.y),
                            _mm_set1_ps(box.maximum.z)};
     int *end = hits;
-    for (int i = first; i < last; i += 4) {
-        __m128 overlap = _mm_cmpeq_ps(_mm_setzero_ps(), _mm_setzero_ps());
-        for (int axis = 0; axis < 3; ++axis) {
-            const __m128 minimum = _mm_loadu_ps(boxes.minimum[axis] + i);
-            const __m128 maximum = _mm_loadu_ps(boxes.maximum[axis] + i);
-            overlap = _mm_and_ps(overlap, _mm_and_ps(_mm_cmple_ps(minimum, high[axis]),
-                                                     _mm_cmple_ps(low[axis], maximum)));
+    for (const BoxSpan *span = spans; span < spans + spanCount; ++span) {
+        for (int i = span->first / 4 * 4; i < span->last; i += 4) {
+            const BoxBlock &b = blocks[i / BoxLanes];
+            __m128 overlap = _mm_cmpeq_ps(_mm_setzero_ps(), _mm_setzero_ps());
+            for (int axis = 0; axis < 3; ++axis) {
+                const __m128 minimum = _mm_load_ps(b.minimum[axis] + i % BoxLanes);
+                const __m128 maximum = _mm_load_ps(b.maximum[axis] + i % BoxLanes);
+                overlap = _mm_and_ps(overlap, _mm_and_ps(_mm_cmple_ps(minimum, high[axis]),
+                                                         _mm_cmple_ps(low[axis], maximum)));
+            }
+            end = appendHits(end, i, unsigned(_mm_movemask_ps(overlap)) & lanesWithin(*span, i));
         }
-        end = appendHits(end, i, unsigned(_mm_movemask_ps(overlap)) & lanesBefore(last, i));
     }
     return int(end - hits);
 }
 
-[[gnu::target("avx2")]] int testEight(const BoxColumns &boxes, int first, int last,
+[[gnu::target("avx2")]] int testEight(const BoxBlock *blocks, const BoxSpan *spans, int spanCount,
                                       const AxisAlignedBoundingBox &box, int *hits)
 {
     const __m256 low[] = {_mm256_set1_ps(box.minimum.x), _mm256_set1_ps(box.minimum.y),
@@ -71,22 +79,26 @@ int testFour(const BoxColumns &boxes, int first, int last, const AxisAlignedBoun
     const __m256 high[] = {_mm256_set1_ps(box.maximum.x), _mm256_set1_ps(box.maximum.y),
                            _mm256_set1_ps(box.maximum.z)};
     int *end = hits;
-    for (int i = first; i < last; i += 8) {
-        __m256 overlap = _mm256_castsi256_ps(_mm256_set1_epi32(-1));
-        for (int axis = 0; axis < 3; ++axis) {
-            const __m256 minimum = _mm256_loadu_ps(boxes.minimum[axis] + i);
-            const __m256 maximum = _mm256_loadu_ps(boxes.maximum[axis] + i);
-            overlap = _mm256_and_ps(overlap,
-                                    _mm256_and_ps(_mm256_cmp_ps(minimum, high[axis], _CMP_LE_OQ),
-                                                  _mm256_cmp_ps(low[axis], maximum, _CMP_LE_OQ)));
+    for (const BoxSpan *span = spans; span < spans + spanCount; ++span) {
+        for (int i = span->first / 8 * 8; i < span->last; i += 8) {
+            const BoxBlock &b = blocks[i / BoxLanes];
+            __m256 overlap = _mm256_castsi256_ps(_mm256_set1_epi32(-1));
+            for (int axis = 0; axis < 3; ++axis) {
+                const __m256 minimum = _mm256_load_ps(b.minimum[axis] + i % BoxLanes);
+                const __m256 maximum = _mm256_load_ps(b.maximum[axis] + i % BoxLanes);
+                overlap = _mm256_and_ps(
+                    overlap, _mm256_and_ps(_mm256_cmp_ps(minimum, high[axis], _CMP_LE_OQ),
+                                           _mm256_cmp_ps(low[axis], maximum, _CMP_LE_OQ)));
+            }
+            end = appendHits(end, i, unsigned(_mm256_movemask_ps(overlap)) & lanesWithin(*span, i));
         }
-        end = appendHits(end, i, unsigned(_mm256_movemask_ps(overlap)) & lanesBefore(last, i));
     }
     return int(end - hits);
 }
 
-[[gnu::target("avx512f")]] int testSixteen(const BoxColumns &boxes, int first, int last,
-                                           const AxisAlignedBoundingBox &box, int *hits)
+[[gnu::target("avx512f")]] int testSixteen(const BoxBlock *blocks, const BoxSpan *spans,
+                                           int spanCount, const AxisAlignedBoundingBox &box,
+                                           int *hits)
 {
     const __m512 low[] = {_mm512_set1_ps(box.minimum.x), _mm512_set1_ps(box.minimum.y),
                           _mm512_set1_ps(box.minimum.z)};
@@ -94,18 +106,21 @@ int testFour(const BoxColumns &boxes, int first, int last, const AxisAlignedBoun
                            _mm512_set1_ps(box.maximum.z)};
     const __m512i lanes = _mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
     int *end = hits;
-    for (int i = first; i < last; i += 16) {
-        __mmask16 overlap = __mmask16(lanesBefore(last, i));
-        for (int axis = 0; axis < 3; ++axis) {
-            const __m512 minimum = _mm512_loadu_ps(boxes.minimum[axis] + i);
-            const __m512 maximum = _mm512_loadu_ps(boxes.maximum[axis] + i);
-            overlap = _mm512_mask_cmp_ps_mask(overlap, minimum, high[axis], _CMP_LE_OQ);
-            overlap = _mm512_mask_cmp_ps_mask(overlap, low[axis], maximum, _CMP_LE_OQ);
+    for (const BoxSpan *span = spans; span < spans + spanCount; ++span) {
+        for (int i = span->first / 16 * 16; i < span->last; i += 16) {
+            const BoxBlock &b = blocks[i / BoxLanes];
+            __mmask16 overlap = __mmask16(lanesWithin(*span, i));
+            for (int axis = 0; axis < 3; ++axis) {
+                const __m512 minimum = _mm512_load_ps(b.minimum[axis]);
+                const __m512 maximum = _mm512_load_ps(b.maximum[axis]);
+                overlap = _mm512_mask_cmp_ps_mask(overlap, minimum, high[axis], _CMP_LE_OQ);
+                overlap = _mm512_mask_cmp_ps_mask(overlap, low[axis], maximum, _CMP_LE_OQ);
+            }
+            // Without a branch: whether a box is hit cannot be foreseen.
+            const __m512i numbers = _mm512_add_epi32(lanes, _mm512_set1_epi32(i));
+            _mm512_storeu_si512(end, _mm512_maskz_compress_epi32(overlap, numbers));
+            end += __builtin_popcount(overlap);
         }
-        // Without a branch: whether a box is hit cannot be foreseen.
-        const __m512i numbers = _mm512_add_epi32(lanes, _mm512_set1_epi32(i));
-        _mm512_storeu_si512(end, _mm512_maskz_compress_epi32(overlap, numbers));
-        end += __builtin_popcount(overlap);
     }
     return int(end - hits);
 }

@@ -68,21 +68,23 @@ public:
     bool removeCurveAt(int i);
     bool removeCurve(orvane::OrvaneCurve *curve);
 
-    ShortList<IntersectionNode *, 4> neighbours; // in order of linking until sorted by angle
-    ShortList<orvane::OrvaneCurve *, 2> curves;  // each once
-    orvane::CurvePoint curvePoint;
-    orvane::Vector normal; // of the surface; zero = not known
-    int vertexIndex = -1;  // in the output mesh; -1 until tracing numbers it
-    // By neighbour: the edge from there to here has been arrived along; the edge from here to there
-    // belongs to a face or to the walk in progress.
-    ShortList<bool, 8> incomingUsed;
-    ShortList<bool, 8> outgoingUsed;
-
 private:
     friend class NodeMarks;
 
     //! The first of so many numbers in a row that no node bears; later calls answer higher ones.
     static quint64 takeMarks(quint64 count);
 
+    // What a walk over the graph reads of every node stands together, here at the front.
     quint64 m_mark = 0; // see graph/nodemarks.h
+
+public:
+    ShortList<IntersectionNode *, 4> neighbours; // in order of linking until sorted by angle
+    orvane::CurvePoint curvePoint;
+    orvane::Vector normal;                      // of the surface; zero = not known
+    int vertexIndex = -1;                       // in the output mesh; -1 until tracing numbers it
+    ShortList<orvane::OrvaneCurve *, 2> curves; // each once
+    // By neighbour: the edge from there to here has been arrived along; the edge from here to there
+    // belongs to a face or to the walk in progress.
+    ShortList<bool, 8> incomingUsed;
+    ShortList<bool, 8> outgoingUsed;
 };

@@ -24,19 +24,6 @@ namespace {
 
 const float MinimumNormal = 1e-5f; // squared length below which a sum of normals has no direction
 
-const int NodesAhead = 6;
-
-// The nodes along a curve lie far apart in memory: asked for early, they are there when needed.
-void prefetch(const IntersectionNode *node)
-{
-#ifdef __GNUC__
-    __builtin_prefetch(&node->neighbours, 1);
-    __builtin_prefetch(&node->outgoingUsed, 1);
-#else
-    Q_UNUSED(node)
-#endif
-}
-
 // Two segments whose boxes overlap.
 struct SegmentPair
 {
@@ -67,7 +54,6 @@ private:
     void addNode(const SegmentPair &pair, const crossinglane::Answer &answer);
     void addNearMiss(const SegmentPair &pair, const crossinglane::Answer &answer);
     Crossing crossingOf(const SegmentPair &pair, const crossinglane::Answer &answer) const;
-    IntersectionNode *nodeOf(const CurveRecords &records, int curve, int i) const;
 
     const QList<OrvaneCurve *> &m_curves;
     QList<IntersectionNode *> &m_nodes;
@@ -76,10 +62,11 @@ private:
     QVector<Crossing> m_crossings; // by node
     NearMisses m_nearMisses;
 
-    QVector<int> m_nearRuns; // those that the run being searched may meet, ascending
-    BoxList m_nearBoxes;     // theirs
-    QVector<int> m_runHits;  // of a segment: indices into m_nearRuns
-    QVector<int> m_hits;     // of a segment: the segments that it may cross
+    QVector<int> m_nearRuns;     // those that the run being searched may meet, ascending
+    BoxList m_nearBoxes;         // theirs
+    QVector<int> m_runHits;      // of a segment: indices into m_nearRuns
+    QVector<BoxSpan> m_runSpans; // those runs
+    QVector<int> m_hits;         // of a segment: the segments that it may cross
 
     CrossingBatch m_batch;
     SegmentPair m_pairs[CrossingBatch::Capacity]; // those in the batch
@@ -89,6 +76,29 @@ void normalizeUnlessZero(Vector &sum)
 {
     if (sum.LengthSquared() > MinimumNormal)
         sum.Normalize();
+}
+
+// By number, in order of linking. A node lies twice on curves, with two neighbours each time.
+struct LinksOfNode
+{
+    int count = 0;
+    int numbers[4];
+};
+
+void link(int a, int b, QVector<LinksOfNode> &links)
+{
+    links[a].numbers[links[a].count++] = b;
+    links[b].numbers[links[b].count++] = a;
+}
+
+// One side of a link that is on its other side too.
+void listNeighbour(IntersectionNode &node, IntersectionNode *neighbour)
+{
+    if (neighbour == &node || node.hasNeighbour(neighbour))
+        return;
+    node.neighbours.append(neighbour);
+    node.outgoingUsed.append(false);
+    node.incomingUsed.append(false);
 }
 
 orvane::Interface *hostInterface()
@@ -165,11 +175,12 @@ void IntersectionSearch::searchRun(int number, int firstOther, const SortedBoxes
     if (m_nearBoxes.size() < count) {
         m_nearBoxes.resize(count);
         m_runHits.resize(count + BoxLanes);
+        m_runSpans.resize(count);
         m_hits.resize(count * RunLength + BoxLanes);
     }
     for (int i = 0; i < count; ++i)
         m_nearBoxes.set(i, m_sampled.runBoxes().at(m_nearRuns[i]));
-    const SegmentRun &run = m_sampled.runs()[number];
+    const BoxSpan run = m_sampled.runs()[number];
     for (int segment = run.first; segment < run.last; ++segment)
         searchSegment(segment);
 }
@@ -179,15 +190,15 @@ void IntersectionSearch::searchSegment(int segment)
     const BoxList &boxes = m_sampled.segmentBoxes();
     const AxisAlignedBoundingBox box = boxes.at(segment);
     const int runs = m_nearBoxes.overlapping(0, m_nearRuns.size(), box, m_runHits.data());
-    int *hits = m_hits.data();
+    BoxSpan *spans = m_runSpans.data();
     for (int i = 0; i < runs; ++i) {
-        const SegmentRun &other = m_sampled.runs()[m_nearRuns[m_runHits[i]]];
+        const BoxSpan other = m_sampled.runs()[m_nearRuns.at(m_runHits.at(i))];
         // On the same curve the next segment, which shares a sample, is left out.
-        const int first = qMax(other.first, segment + 2);
-        hits += boxes.overlapping(first, other.last, box, hits);
+        spans[i] = {qMax(other.first, segment + 2), other.last};
     }
-    for (const int *hit = m_hits.constData(); hit < hits; ++hit)
-        addPair({segment, *hit});
+    const int hits = boxes.overlapping(spans, runs, box, m_hits.data());
+    for (int i = 0; i < hits; ++i)
+        addPair({segment, m_hits.at(i)});
 }
 
 void IntersectionSearch::addPair(const SegmentPair &pair)
@@ -243,22 +254,23 @@ void IntersectionSearch::addNode(const SegmentPair &pair, const crossinglane::An
     m_nodes.append(node);
 }
 
-IntersectionNode *IntersectionSearch::nodeOf(const CurveRecords &records, int curve, int i) const
-{
-    return m_nodes[m_firstNode + records.crossing(curve, i)];
-}
-
+// The links are gathered by number first: nodes along a curve lie far apart in memory, and each is
+// written to only once.
 void IntersectionSearch::linkAlongCurves()
 {
     const CurveRecords records(m_curves.size(), m_crossings);
+    QVector<LinksOfNode> links(m_crossings.size());
     for (int k = 0; k < m_curves.size(); ++k) {
         const int last = records.size(k) - 1;
-        for (int i = 0; i < last; ++i) {
-            prefetch(nodeOf(records, k, qMin(i + NodesAhead, last)));
-            nodeOf(records, k, i)->addNeighbour(nodeOf(records, k, i + 1));
-        }
+        for (int i = 0; i < last; ++i)
+            link(records.crossing(k, i), records.crossing(k, i + 1), links);
         if (m_sampled.curves()[k].isClosed && last > 0)
-            nodeOf(records, k, last)->addNeighbour(nodeOf(records, k, 0));
+            link(records.crossing(k, last), records.crossing(k, 0), links);
+    }
+    const auto nodes = m_nodes.cbegin() + m_firstNode;
+    for (int i = 0; i < links.size(); ++i) {
+        for (int n = 0; n < links.at(i).count; ++n)
+            listNeighbour(*nodes[i], nodes[links.at(i).numbers[n]]);
     }
 }
 

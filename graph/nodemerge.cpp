@@ -24,6 +24,7 @@ ShortList<IntersectionNode *, 4> closeNeighbours(const IntersectionNode &node, f
 void mergeCloseNodes(QList<IntersectionNode *> &nodes, float mergeDistance)
 {
     NodeMarks absorbed;
+    bool any = false;
     for (IntersectionNode *node : qAsConst(nodes)) {
         if (absorbed.has(node))
             continue;
@@ -31,11 +32,13 @@ void mergeCloseNodes(QList<IntersectionNode *> &nodes, float mergeDistance)
             node->merge(close);
             close->unlinkAll();
             absorbed.set(close);
+            any = true;
         }
     }
     const auto isAbsorbed = [&absorbed](const IntersectionNode *node) {
         return absorbed.has(node);
     };
-    nodes.erase(std::remove_if(nodes.begin(), nodes.end(), isAbsorbed), nodes.end());
+    if (any)
+        nodes.erase(std::remove_if(nodes.begin(), nodes.end(), isAbsorbed), nodes.end());
     orvane::Timer::LogAll();
 }

@@ -7,24 +7,52 @@
 
 #include <QVector>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
-const int NotReached = 0; // pieces are numbered from 1 on
-
-// Gives every node that can be reached from start the number of its piece.
-void reach(IntersectionNode *start, int piece, NodeMarks &pieceOf)
+// Nodes that links join, by their numbers in the list. A piece goes by its lowest number.
+class JoinedNodes
 {
-    QVector<IntersectionNode *> queue{start};
-    pieceOf.set(start, piece);
-    while (!queue.isEmpty()) {
-        const IntersectionNode *node = queue.takeLast();
-        for (IntersectionNode *neighbour : node->neighbours) {
-            if (!neighbour || pieceOf.of(neighbour) != NotReached)
-                continue;
-            pieceOf.set(neighbour, piece);
-            queue.append(neighbour);
+public:
+    explicit JoinedNodes(int count) : m_parent(size_t(count)) {}
+
+    void add(int node) { parent(node) = node; }
+    void join(int a, int b)
+    {
+        a = root(a);
+        b = root(b);
+        parent(std::max(a, b)) = std::min(a, b);
+    }
+    int root(int node)
+    {
+        while (parent(node) != node)
+            node = parent(node) = parent(parent(node));
+        return node;
+    }
+
+private:
+    int &parent(int node) { return m_parent[size_t(node)]; }
+
+    std::vector<int> m_parent; // by number: a lower one of the same piece, itself at the root
+};
+
+// In the order of the list, which is that of the memory: a walk along the links would wait for
+// each node in turn.
+JoinedNodes joinedNodes(const QList<IntersectionNode *> &nodes)
+{
+    JoinedNodes joined(nodes.size());
+    NodeMarks numbers(nodes.size() + 1);
+    for (int i = 0; i < nodes.size(); ++i) {
+        joined.add(i);
+        numbers.set(nodes[i], i);
+        for (const IntersectionNode *neighbour : qAsConst(nodes[i]->neighbours)) {
+            if (neighbour && numbers.has(neighbour)) // if not, it comes later or is not listed
+                joined.join(i, numbers.of(neighbour));
         }
     }
+    return joined;
 }
 
 } // namespace
@@ -32,19 +60,18 @@ void reach(IntersectionNode *start, int piece, NodeMarks &pieceOf)
 void findPieces(const QList<IntersectionNode *> &nodes, QList<IntersectionNode *> &seeds)
 {
     seeds.clear();
-    NodeMarks pieceOf(nodes.size() + 1);
-    for (IntersectionNode *node : nodes)
-        pieceOf.set(node, NotReached);
-    for (IntersectionNode *node : nodes) {
-        const int piece = pieceOf.of(node);
-        if (piece == NotReached) {
-            seeds.append(node);
-            reach(node, seeds.size(), pieceOf);
+    JoinedNodes joined = joinedNodes(nodes);
+    QVector<int> seedOf(nodes.size()); // by root: place in seeds
+    for (int i = 0; i < nodes.size(); ++i) {
+        const int root = joined.root(i);
+        if (root == i) {
+            seedOf[i] = seeds.size();
+            seeds.append(nodes[i]);
             continue;
         }
-        IntersectionNode *&seed = seeds[piece - 1];
-        if (seed->neighbourCount() < 2 && node->neighbourCount() >= 2)
-            seed = node;
+        IntersectionNode *&seed = seeds[seedOf[root]];
+        if (seed->neighbourCount() < 2 && nodes[i]->neighbourCount() >= 2)
+            seed = nodes[i];
     }
     orvane::Timer::LogAll();
 }

@@ -41,8 +41,8 @@ void SampledCurves::sample(int number, float overrun)
     curve.lastSample = m_positions.size();
     makeBoxes(curve);
     curve.firstRun = m_runs.size();
-    for (int first = curve.firstSample; first < curve.lastSample - 1; first += RunLength)
-        m_runs.append({first, qMin(first + RunLength, curve.lastSample - 1)});
+    for (int first = curve.firstSample; first < curve.lastSample - 1; first = m_runs.last().last)
+        m_runs.append({first, qMin((first / RunLength + 1) * RunLength, curve.lastSample - 1)});
     curve.lastRun = m_runs.size();
 }
 
@@ -70,11 +70,21 @@ void SampledCurves::makeRuns()
         m_runBoxes.set(i, m_segmentBoxes.around(m_runs[i].first, m_runs[i].last));
 }
 
-// Most samples lie next to several crossings or to none.
 const Vector &SampledCurves::normal(int sample)
 {
-    Vector &normal = m_normals[sample];
-    if (std::isnan(normal.x))
-        normal = m_curves[m_curveOf[sample]]->Points()[m_points[sample]].surfacePoint.WorldNormal();
-    return normal;
+    if (std::isnan(m_normals[sample].x))
+        findNormals(sample);
+    return m_normals[sample];
+}
+
+// Many samples lie next to no crossing. Those next to each other lie near each other on the mesh:
+// the normals of a run are found at once.
+void SampledCurves::findNormals(int sample)
+{
+    const SampledCurve &curve = m_sampled[m_curveOf[sample]];
+    const OrvaneCurve &source = *m_curves[m_curveOf[sample]];
+    const int block = sample / RunLength * RunLength;
+    const int last = qMin(block + RunLength, curve.lastSample);
+    for (int i = qMax(block, curve.firstSample); i < last; ++i)
+        m_normals[i] = source.Points()[m_points[i]].surfacePoint.WorldNormal();
 }

@@ -23,14 +23,9 @@ struct SampledCurve
     bool isNumber = false; // its box has no NaN for a side: only then can others meet it
 };
 
-const int RunLength = 16; // segments
-
-//! Up to RunLength consecutive segments of a curve. A segment has the number of its first sample.
-struct SegmentRun
-{
-    int first;
-    int last; // one past
-};
+//! Most segments of a run: consecutive segments of a curve whose boxes are tested at once. A
+//! segment has the number of its first sample, and runs begin at the multiples of this one.
+const int RunLength = BoxLanes;
 
 //! The curves as the search sees them: samples, segments and runs of segments of all curves one
 //! after the other, numbered through.
@@ -46,7 +41,7 @@ public:
     void makeRuns();
 
     const QVector<SampledCurve> &curves() const { return m_sampled; }
-    const QVector<SegmentRun> &runs() const { return m_runs; }
+    const QVector<BoxSpan> &runs() const { return m_runs; }
     //! Grown and snapped.
     const BoxList &segmentBoxes() const { return m_segmentBoxes; }
     const BoxList &runBoxes() const { return m_runBoxes; }
@@ -61,6 +56,7 @@ public:
 
 private:
     void makeBoxes(SampledCurve &curve);
+    void findNormals(int sample);
 
     const QList<orvane::OrvaneCurve *> &m_curves;
     float m_distance;
@@ -70,6 +66,6 @@ private:
     QVector<int> m_points;             // by sample: the index of its point on the curve
     QVector<orvane::Vector> m_normals; // by sample: NaN until someone asks
     BoxList m_segmentBoxes;
-    QVector<SegmentRun> m_runs;
+    QVector<BoxSpan> m_runs;
     BoxList m_runBoxes;
 };

@@ -2,6 +2,7 @@
 #include "graph/sortedboxes.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using orvane::AxisAlignedBoundingBox;
@@ -10,11 +11,6 @@ namespace {
 
 const int GroupSize = 16; // boxes
 
-float along(const orvane::Vector &v, int axis)
-{
-    return axis == 0 ? v.x : axis == 1 ? v.y : v.z;
-}
-
 // About how many boxes a box meets along the axis.
 double crowding(const BoxList &boxes, const QVector<int> &numbers, int axis)
 {
@@ -22,13 +18,29 @@ double crowding(const BoxList &boxes, const QVector<int> &numbers, int axis)
     float low = std::numeric_limits<float>::infinity();
     float high = -low;
     for (int number : numbers) {
-        const float minimum = boxes.minimum(axis)[number];
-        const float maximum = boxes.maximum(axis)[number];
+        const float minimum = boxes.minimum(number, axis);
+        const float maximum = boxes.maximum(number, axis);
         widths += double(maximum) - double(minimum);
         low = std::min(low, minimum);
         high = std::max(high, maximum);
     }
-    return widths / (double(high) - double(low));
+    const double result = widths / (double(high) - double(low));
+    return std::isnan(result) ? std::numeric_limits<double>::infinity() : result;
+}
+
+void sortAlong(int axis, const BoxList &boxes, int *begin, int *end)
+{
+    std::sort(begin, end, [&boxes, axis](int a, int b) {
+        return boxes.minimum(a, axis) < boxes.minimum(b, axis);
+    });
+}
+
+// A box around every so many neighbours.
+void wrap(const BoxList &boxes, int size, BoxList &wrapped)
+{
+    wrapped.resize((boxes.size() + size - 1) / size);
+    for (int i = 0; i < wrapped.size(); ++i)
+        wrapped.set(i, boxes.around(i * size, std::min((i + 1) * size, boxes.size())));
 }
 
 } // namespace
@@ -37,51 +49,53 @@ void SortedBoxes::assign(const BoxList &boxes, const QVector<int> &numbers)
 {
     m_numbers.resize(numbers.size());
     std::copy(numbers.cbegin(), numbers.cend(), m_numbers.begin());
-    sortAlongAxis(boxes);
-    makeGroups();
+    // As many groups in a strip as there are strips.
+    m_groupsPerStrip = 1 + int(std::sqrt(m_numbers.size() / GroupSize));
+    sort(boxes);
+    makeLevels();
 }
 
-void SortedBoxes::sortAlongAxis(const BoxList &boxes)
+void SortedBoxes::sort(const BoxList &boxes)
 {
     const double crowdings[] = {crowding(boxes, m_numbers, 0), crowding(boxes, m_numbers, 1),
                                 crowding(boxes, m_numbers, 2)};
-    m_axis = int(std::min_element(crowdings, crowdings + 3) - crowdings);
-    const float *minimum = boxes.minimum(m_axis);
-    std::sort(m_numbers.begin(), m_numbers.end(),
-              [minimum](int a, int b) { return minimum[a] < minimum[b]; });
+    int axes[] = {0, 1, 2};
+    std::sort(axes, axes + 3, [&crowdings](int a, int b) { return crowdings[a] < crowdings[b]; });
+    sortAlong(axes[0], boxes, m_numbers.begin(), m_numbers.end());
+    const int stripSize = m_groupsPerStrip * GroupSize;
+    for (int first = 0; first < m_numbers.size(); first += stripSize)
+        sortAlong(axes[1], boxes, m_numbers.begin() + first,
+                  m_numbers.begin() + std::min(first + stripSize, m_numbers.size()));
     m_boxes.resize(m_numbers.size());
     for (int i = 0; i < m_numbers.size(); ++i)
         m_boxes.set(i, boxes.at(m_numbers[i]));
 }
 
-void SortedBoxes::makeGroups()
+void SortedBoxes::makeLevels()
 {
-    const int count = (m_boxes.size() + GroupSize - 1) / GroupSize;
-    m_groups.resize(count);
-    m_reach.resize(count);
-    m_groupHits.resize(count + BoxLanes);
-    m_hits.resize(m_boxes.size() + BoxLanes);
-    float reach = -std::numeric_limits<float>::infinity();
-    for (int i = 0; i < count; ++i) {
-        const int first = i * GroupSize;
-        m_groups.set(i, m_boxes.around(first, std::min(first + GroupSize, m_boxes.size())));
-        reach = std::max(reach, m_groups.maximum(m_axis)[i]);
-        m_reach[i] = reach;
-    }
+    wrap(m_boxes, GroupSize, m_groups);
+    wrap(m_groups, m_groupsPerStrip, m_strips);
+    m_stripHits.resize(m_strips.size() + BoxLanes);
+    m_groupHits.resize(m_groupsPerStrip + BoxLanes);
+    m_hits.resize(m_groupsPerStrip * GroupSize + BoxLanes);
 }
 
 void SortedBoxes::overlapping(const AxisAlignedBoundingBox &box, int first,
                               QVector<int> &numbers) const
 {
     numbers.resize(0);
-    // Groups before these end before the box begins; groups after these begin after it ends.
-    const auto begin =
-        std::lower_bound(m_reach.cbegin(), m_reach.cend(), along(box.minimum, m_axis));
-    const float *starts = m_groups.minimum(m_axis);
-    const float *end =
-        std::upper_bound(starts, starts + m_groups.size(), along(box.maximum, m_axis));
-    const int groups = m_groups.overlapping(int(begin - m_reach.cbegin()), int(end - starts), box,
-                                            m_groupHits.data());
+    const int strips = m_strips.overlapping(0, m_strips.size(), box, m_stripHits.data());
+    for (int i = 0; i < strips; ++i)
+        searchStrip(m_stripHits[i], box, first, numbers);
+    std::sort(numbers.begin(), numbers.end());
+}
+
+void SortedBoxes::searchStrip(int strip, const AxisAlignedBoundingBox &box, int first,
+                              QVector<int> &numbers) const
+{
+    const int firstGroup = strip * m_groupsPerStrip;
+    const int lastGroup = std::min(firstGroup + m_groupsPerStrip, m_groups.size());
+    const int groups = m_groups.overlapping(firstGroup, lastGroup, box, m_groupHits.data());
     for (int i = 0; i < groups; ++i) {
         const int begins = m_groupHits[i] * GroupSize;
         while (i + 1 < groups && m_groupHits[i + 1] == m_groupHits[i] + 1)
@@ -93,5 +107,4 @@ void SortedBoxes::overlapping(const AxisAlignedBoundingBox &box, int first,
                 numbers.append(m_numbers[m_hits[hit]]);
         }
     }
-    std::sort(numbers.begin(), numbers.end());
 }

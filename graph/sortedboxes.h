@@ -5,8 +5,9 @@
 
 #include <QVector>
 
-//! Answers which of many boxes overlap a box, without a look at all of them: sorted along one
-//! axis, with a box around every few neighbours.
+//! Answers which of many boxes overlap a box, without a look at all of them: sorted along one axis
+//! and cut into strips, each strip sorted along another axis and cut into groups. There is a box
+//! around each strip and each group.
 class SortedBoxes
 {
 public:
@@ -18,14 +19,17 @@ public:
                      QVector<int> &numbers) const;
 
 private:
-    void sortAlongAxis(const BoxList &boxes);
-    void makeGroups();
+    void sort(const BoxList &boxes);
+    void makeLevels();
+    void searchStrip(int strip, const orvane::AxisAlignedBoundingBox &box, int first,
+                     QVector<int> &numbers) const;
 
-    int m_axis = 0;
-    QVector<int> m_numbers; // by smallest coordinate along the axis
-    BoxList m_boxes;        // in the same order
-    BoxList m_groups;       // around GroupSize of them each
-    QVector<float> m_reach; // largest coordinate along the axis up to each group
+    int m_groupsPerStrip = 1; // but for the last
+    QVector<int> m_numbers;   // by strip and place in it
+    BoxList m_boxes;          // in the same order
+    BoxList m_groups;         // around GroupSize of them each
+    BoxList m_strips;         // around m_groupsPerStrip of those each
+    mutable QVector<int> m_stripHits;
     mutable QVector<int> m_groupHits;
     mutable QVector<int> m_hits;
 };

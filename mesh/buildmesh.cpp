@@ -2,6 +2,7 @@
 #include "mesh/buildmesh.h"
 
 #include "graph/graphwalk.h"
+#include "graph/nodefetch.h"
 #include "mesh/facetracing.h"
 #include "mesh/meshbuilder.h"
 
@@ -9,22 +10,17 @@
 
 namespace {
 
-QVector<IntersectionNode *> nodesOf(IntersectionNode *start)
+// Answers the nodes by vertex number.
+QVector<IntersectionNode *> numberVertices(IntersectionNode *start, MeshBuilder &builder)
 {
     QVector<IntersectionNode *> nodes;
-    walkGraph(start, 0, [&nodes](IntersectionNode *node) { nodes.append(node); });
+    walkGraph(start, 0, [&nodes, &builder](IntersectionNode *node) {
+        node->vertexIndex = nodes.size();
+        nodes.append(node);
+        builder.positions.append(node->position());
+        builder.normals.append(node->normal);
+    });
     return nodes;
-}
-
-void numberVertices(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder)
-{
-    builder.positions.resize(nodes.size());
-    builder.normals.resize(nodes.size());
-    for (int i = 0; i < nodes.size(); ++i) {
-        nodes[i]->vertexIndex = i;
-        builder.positions[i] = nodes[i]->position();
-        builder.normals[i] = nodes[i]->normal;
-    }
 }
 
 // A start with a single neighbour makes no face, deliberately. Any other loose end is left out: a
@@ -33,7 +29,10 @@ void traceFaces(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder, 
 {
     if (nodes.isEmpty() || nodes.first()->neighbourCount() < 2)
         return;
-    for (IntersectionNode *node : nodes) {
+    for (int place = 0; place < nodes.size(); ++place) {
+        fetchNode(nodes[qMin(place + 2 * FetchAhead, nodes.size() - 1)]);
+        fetchNeighbours(nodes[qMin(place + FetchAhead, nodes.size() - 1)]);
+        IntersectionNode *node = nodes[place];
         if (node->neighbourCount() < 2)
             continue;
         for (int i = 0; i < node->neighbourCount(); ++i)
@@ -43,8 +42,7 @@ void traceFaces(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder, 
 
 BuiltPiece tracePiece(IntersectionNode *start, int maxEdges, MeshBuilder &builder)
 {
-    const QVector<IntersectionNode *> nodes = nodesOf(start);
-    numberVertices(nodes, builder);
+    const QVector<IntersectionNode *> nodes = numberVertices(start, builder);
     traceFaces(nodes, builder, maxEdges);
 
     BuiltPiece piece;

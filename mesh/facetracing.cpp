@@ -66,8 +66,8 @@ void traceFace(IntersectionNode *node, int edge, MeshBuilder &builder, int maxEd
     node->outgoingUsed[edge] = true;
     if (!walkFace(node->neighbours[edge], node, node, 1, maxEdges, face, builder))
         node->outgoingUsed[edge] = false;
-    else if (face.size() > 2) // a copy, which takes no more room than it needs
-        builder.addPolygon(QVector<int>(face.cbegin(), face.cend()));
+    else if (face.size() > 2)
+        builder.addPolygon(face);
 }
 
 // A walk calls itself for each next node in effect; the path is kept here instead of on the

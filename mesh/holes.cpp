@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mesh/holes.h"
 
-#include "graph/intersectionnode.h"
+#include "graph/nodefetch.h"
 #include "mesh/meshbuilder.h"
 
 using orvane::Vector;
@@ -16,8 +16,12 @@ public:
     {
         m_firstEdge.reserve(nodes.size() + 1);
         m_firstEdge.append(0);
-        for (const IntersectionNode *node : nodes)
-            m_firstEdge.append(m_firstEdge.last() + node->neighbourCount());
+        int edges = 0;
+        for (int i = 0; i < nodes.size(); ++i) {
+            fetchNode(nodes[qMin(i + FetchAhead, nodes.size() - 1)]);
+            edges += nodes[i]->neighbourCount();
+            m_firstEdge.append(edges);
+        }
         m_visited.fill(false, m_firstEdge.last());
     }
 
@@ -93,6 +97,7 @@ HoleCounts countHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilde
     HoleCounts holes;
     CellWalk walk(nodes);
     for (int vertex = 0; vertex < nodes.size(); ++vertex) {
+        fetchNode(nodes[qMin(vertex + FetchAhead, nodes.size() - 1)]);
         for (int edge = 0; edge < nodes[vertex]->neighbourCount(); ++edge) {
             // A cycle of edges of faces is no hole; most are, and need not be followed.
             if (nodes[vertex]->outgoingUsed[edge] || walk.isVisited(vertex, edge))

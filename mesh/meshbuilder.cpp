@@ -26,29 +26,28 @@ const double AgreeingAngle = 2.827433388230814; // radians, 0.9 pi
 
 enum class MeshKind { None, Triangles, Quads, Mixed, Invalid };
 
-MeshKind kindOf(const QList<QVector<int>> &faces)
+MeshKind kindOf(const FaceList &faces)
 {
     MeshKind kind = MeshKind::None;
-    for (const QVector<int> &face : faces) {
-        if (face.size() < 3)
+    for (int i = 0; i < faces.size() && kind != MeshKind::Mixed; ++i) {
+        const int corners = faces.cornerCount(i);
+        if (corners < 3)
             return MeshKind::Invalid;
-        const MeshKind own = face.size() == 3   ? MeshKind::Triangles
-                             : face.size() == 4 ? MeshKind::Quads
-                                                : MeshKind::Mixed;
+        const MeshKind own = corners == 3   ? MeshKind::Triangles
+                             : corners == 4 ? MeshKind::Quads
+                                            : MeshKind::Mixed;
         kind = kind == MeshKind::None || kind == own ? own : MeshKind::Mixed;
-        if (kind == MeshKind::Mixed)
-            break;
     }
     return kind;
 }
 
-int meshFaceCount(const QList<QVector<int>> &faces, MeshKind kind)
+int meshFaceCount(const FaceList &faces, MeshKind kind)
 {
     if (kind != MeshKind::Mixed)
         return faces.size();
     int count = 0;
-    for (const QVector<int> &face : faces)
-        count += face.size() - 2;
+    for (int i = 0; i < faces.size(); ++i)
+        count += faces.cornerCount(i) - 2;
     return count;
 }
 
@@ -172,20 +171,22 @@ orvane::Mesh *MeshBuilder::createMesh() const
     }
     fillFaces(*mesh);
     mesh->SetName(QStringLiteral("Sketched Mesh"));
+    mesh->Update(true, 0); // the polygons that the check would have to find for itself
     return validateNewMesh(mesh.data()) ? mesh.take() : nullptr;
 }
 
 void MeshBuilder::fillFaces(orvane::Mesh &mesh) const
 {
     int t = 0;
-    for (const QVector<int> &face : faces) {
+    for (int i = 0; i < faces.size(); ++i) {
+        const int *face = faces.corners(i);
         if (mesh.IsQuads()) {
             for (int corner = 0; corner < 4; ++corner)
                 mesh.SetQuadIndex(t, corner, face[corner]);
             ++t;
             continue;
         }
-        for (int k = 2; k < face.size(); ++k, ++t) {
+        for (int k = 2; k < faces.cornerCount(i); ++k, ++t) {
             mesh.SetTriangleIndex(t, 0, face[0]);
             mesh.SetTriangleIndex(t, 1, face[k - 1]);
             mesh.SetTriangleIndex(t, 2, face[k]);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mesh/facelist.h"
+
 #include <orvane/math/vector.h>
 
-#include <QList>
 #include <QVector>
 
 namespace orvane {
@@ -37,7 +38,7 @@ public:
     //! 3 corners, or the mesh was discarded for its faults.
     orvane::Mesh *createMesh() const;
 
-    QList<QVector<int>> faces;         // n >= 3 vertex numbers each, in order of acceptance
+    FaceList faces;                    // n >= 3 vertex numbers each, in order of acceptance
     QVector<orvane::Vector> positions; // by vertex number, world space
     QVector<orvane::Vector> normals;   // parallel to positions; zero = not known
 

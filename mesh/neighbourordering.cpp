@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "mesh/neighbourordering.h"
 
-#include "graph/graphwalk.h"
-#include "graph/intersectionnode.h"
+#include "graph/nodefetch.h"
+#include "graph/nodemarks.h"
 
 #include <QVarLengthArray>
+#include <QVector>
 #include <QtAlgorithms>
 
 #include <cmath>
@@ -95,7 +96,23 @@ void IntersectionNode::sortNeighboursByAngle()
         neighbours[i] = unsorted[records[i].index];
 }
 
+// Each node is ordered by itself, so any way round will do. Breadth first, the nodes to come are
+// known well ahead.
 void orderNeighbours(IntersectionNode *start)
 {
-    walkGraph(start, 0, [](IntersectionNode *node) { node->sortNeighboursByAngle(); });
+    if (!start)
+        return;
+    NodeMarks reached;
+    QVector<IntersectionNode *> queue{start};
+    reached.set(start);
+    for (int i = 0; i < queue.size(); ++i) {
+        fetchNeighbours(queue[qMin(i + FetchAhead, queue.size() - 1)]);
+        queue[i]->sortNeighboursByAngle();
+        for (IntersectionNode *neighbour : qAsConst(queue[i]->neighbours)) {
+            if (!neighbour || reached.has(neighbour))
+                continue;
+            reached.set(neighbour);
+            queue.append(neighbour);
+        }
+    }
 }

@@ -3,6 +3,8 @@
 
 #include "host/meshchecker/meshshape.h"
 
+#include <QVector>
+
 #include <algorithm>
 #include <numeric>
 
@@ -26,99 +28,118 @@ MeshFault faultyVertices(int bit, const MeshShape &shape, IsFaulty isFaulty)
     return fault;
 }
 
-// Counts the fans of corners at each vertex. Corners start as fans of their own; walking along
-// every polygon side joins the corner at each of its ends with the one met there before.
-class FanCount
+// A corner of a polygon, by the vertices next to its own along the two sides.
+struct Corner
 {
-public:
-    explicit FanCount(const MeshShape &shape)
-        : m_corners(shape.boundaries.corners),
-          m_edges(shape.edges),
-          m_fans(shape.edgesAt.size(), 0),
-          m_firstEdge(shape.edgesAt.size() + 1, 0),
-          m_cornerMet(2 * shape.edges.size(), -1),
-          m_parent(m_corners.size())
-    {
-        for (const MeshEdge &edge : m_edges)
-            ++m_firstEdge[edge.a + 1];
-        std::partial_sum(m_firstEdge.begin(), m_firstEdge.end(), m_firstEdge.begin());
-        std::iota(m_parent.begin(), m_parent.end(), 0);
-        walk(shape.boundaries);
-    }
-
-    const QVector<int> &fans() const { return m_fans; }
-
-private:
-    void walk(const PolygonList &boundaries);
-    void walkSide(int from, int to);
-    void meet(int edgeEnd, int corner);
-    bool join(int corner, int other);
-    int root(int corner);
-    int edgeBetween(int a, int b) const;
-
-    const QVector<int> &m_corners;
-    const QVector<MeshEdge> &m_edges;
-    QVector<int> m_fans;      // by vertex
-    QVector<int> m_firstEdge; // by lower vertex, and the end
-    QVector<int> m_cornerMet; // by edge end: twice the edge, plus 1 for the upper vertex; or -1
-    QVector<int> m_parent;    // by corner: one of the same fan, itself at the root
+    int previous;
+    int next;
 };
 
-void FanCount::walk(const PolygonList &boundaries)
+// The corners at each vertex, of polygons that have a side.
+class CornersAtVertices
 {
-    for (int p = 0; p < boundaries.Count(); ++p) {
-        const int first = boundaries.firstCorner[p];
-        const int end = boundaries.firstCorner[p + 1];
-        if (end - first < 2)
-            continue; // no side, so nothing around its vertex
-        for (int corner = first; corner < end; ++corner)
-            ++m_fans[m_corners[corner]];
-        for (int corner = first; corner < end; ++corner)
-            walkSide(corner, corner + 1 == end ? first : corner + 1);
+public:
+    explicit CornersAtVertices(const MeshShape &shape)
+        : m_boundaries(shape.boundaries),
+          m_end(shape.edgesAt.size(), 0),
+          m_corners(m_boundaries.corners.size())
+    {
+        int *end = m_end.data();
+        forEachCorner([end](int vertex, Corner) { ++end[vertex]; });
+        int start = 0;
+        for (int &count : m_end) {
+            start += count;
+            count = start - count;
+        }
+        Corner *corners = m_corners.data();
+        forEachCorner(
+            [end, corners](int vertex, Corner corner) { corners[end[vertex]++] = corner; });
     }
-}
 
-void FanCount::walkSide(int from, int to)
-{
-    const int v = m_corners[from];
-    const int w = m_corners[to];
-    const int edge = edgeBetween(std::min(v, w), std::max(v, w));
-    meet(2 * edge + (v > w ? 1 : 0), from);
-    meet(2 * edge + (w > v ? 1 : 0), to);
-}
-
-void FanCount::meet(int edgeEnd, int corner)
-{
-    int &met = m_cornerMet[edgeEnd];
-    if (met >= 0 && join(met, corner))
-        --m_fans[m_corners[corner]];
-    met = corner;
-}
-
-bool FanCount::join(int corner, int other)
-{
-    const int a = root(corner);
-    const int b = root(other);
-    m_parent[std::max(a, b)] = std::min(a, b);
-    return a != b;
-}
-
-int FanCount::root(int corner)
-{
-    while (m_parent[corner] != corner) {
-        m_parent[corner] = m_parent[m_parent[corner]];
-        corner = m_parent[corner];
+    Corner *begin(int vertex)
+    {
+        return m_corners.data() + (vertex == 0 ? 0 : m_end.at(vertex - 1));
     }
-    return corner;
+    Corner *end(int vertex) { return m_corners.data() + m_end.at(vertex); }
+
+private:
+    template <typename Visit>
+    void forEachCorner(Visit visit) const
+    {
+        for (int p = 0; p < m_boundaries.Count(); ++p) {
+            const int *corner = m_boundaries.Corners(p);
+            const int count = m_boundaries.CornerCount(p);
+            for (int i = 0; i < count && count > 1; ++i)
+                visit(corner[i],
+                      {corner[i == 0 ? count - 1 : i - 1], corner[i + 1 == count ? 0 : i + 1]});
+        }
+    }
+
+    const PolygonList &m_boundaries;
+    QVector<int> m_end; // by vertex: in m_corners
+    QVector<Corner> m_corners;
+};
+
+// Turns from corner to corner across the sides between them, from the first one on and then back
+// from it, and moves those it meets to the front. Answers the end of those.
+Corner *turnAround(Corner *begin, Corner *end)
+{
+    Corner *met = begin + 1;
+    int next = begin->next;
+    int previous = begin->previous;
+    for (Corner *found = met; found != end; found = met) {
+        while (found != end && found->previous != next && found->next != previous)
+            ++found;
+        if (found == end)
+            break;
+        (found->previous == next ? next : previous) =
+            found->previous == next ? found->next : found->previous;
+        std::swap(*met++, *found);
+    }
+    return met;
 }
 
-int FanCount::edgeBetween(int a, int b) const
+// Are the corners joined through the edges at their vertex, whichever way round their polygons?
+bool areJoined(const Corner *begin, const Corner *end)
 {
-    const auto begin = m_edges.cbegin();
-    const auto found =
-        std::lower_bound(begin + m_firstEdge[a], begin + m_firstEdge[a + 1], b,
-                         [](const MeshEdge &edge, int upper) { return edge.b < upper; });
-    return int(found - begin);
+    struct Side
+    {
+        int vertex;
+        int corner;
+    };
+    QVector<Side> sides;
+    for (const Corner *corner = begin; corner != end; ++corner) {
+        sides.append({corner->previous, int(corner - begin)});
+        sides.append({corner->next, int(corner - begin)});
+    }
+    std::sort(sides.begin(), sides.end(),
+              [](const Side &a, const Side &b) { return a.vertex < b.vertex; });
+    QVector<int> parent(int(end - begin)); // by corner: one of the same fan, itself at the root
+    std::iota(parent.begin(), parent.end(), 0);
+    const auto root = [&parent](int corner) {
+        while (parent[corner] != corner)
+            corner = parent[corner] = parent[parent[corner]];
+        return corner;
+    };
+    int fans = parent.size();
+    for (int i = 1; i < sides.size(); ++i) {
+        if (sides[i].vertex != sides[i - 1].vertex)
+            continue;
+        const int a = root(sides[i - 1].corner);
+        const int b = root(sides[i].corner);
+        parent[std::max(a, b)] = std::min(a, b);
+        fans -= a != b;
+    }
+    return fans <= 1;
+}
+
+// Turning around tells nearly always and fast, but not where polygons face different ways.
+bool areOneFan(Corner *begin, Corner *end)
+{
+    if (end - begin < 2)
+        return true;
+    return (end - begin <= MaximumValence && turnAround(begin, end) == end)
+           || areJoined(begin, end);
 }
 
 } // namespace
@@ -145,9 +166,10 @@ MeshFault interiorValenceTwo(const MeshShape &shape)
 
 MeshFault vertexSplices(const MeshShape &shape)
 {
-    const FanCount count(shape);
-    return faultyVertices(MeshChecker::VertexSplice, shape,
-                          [&count](int v) { return count.fans()[v] > 1; });
+    CornersAtVertices corners(shape);
+    return faultyVertices(MeshChecker::VertexSplice, shape, [&corners](int v) {
+        return !areOneFan(corners.begin(v), corners.end(v));
+    });
 }
 
 MeshFault nonManifoldEdges(const MeshShape &shape)

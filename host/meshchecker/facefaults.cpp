@@ -5,6 +5,8 @@
 
 #include <orvane/geometry/mesh.h>
 
+#include <QPair>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -52,79 +54,94 @@ bool isDegenerate(const MeshShape &shape, int polygon)
     return std::isfinite(reach) && doubledArea.length() * 0.5 <= reach * shape.zeroLength;
 }
 
-// Finds polygons with the same set of vertices. Such polygons share their lowest vertex, so
-// only those of one lowest vertex need sorting.
+// Finds polygons with the same set of vertices. Such polygons share their lowest vertex and their
+// highest, so only those that do are compared.
 class LaminaSearch
 {
 public:
     explicit LaminaSearch(const MeshShape &shape)
-        : m_sets(shape.boundaries), m_setEnd(m_sets.Count()), m_isLamina(m_sets.Count(), false)
+        : m_boundaries(shape.boundaries), m_isLamina(m_boundaries.Count(), false)
     {
-        makeSets();
         gather(shape.edgesAt.size());
         for (int v = 0; v + 1 < m_start.size(); ++v)
-            compare(m_gathered.begin() + m_start[v], m_gathered.begin() + m_start[v + 1]);
+            search(m_gathered.data() + m_start.at(v), m_gathered.data() + m_start.at(v + 1));
     }
 
     bool isLamina(int polygon) const { return m_isLamina[polygon]; }
 
 private:
-    void makeSets();
+    struct Candidate
+    {
+        int highest;
+        int polygon;
+    };
+
     void gather(int vertexCount);
-    void compare(QVector<int>::iterator begin, QVector<int>::iterator end);
-    bool isBefore(int p, int q) const;
+    void search(Candidate *begin, Candidate *end);
+    void compare(const Candidate *begin, const Candidate *end);
+    QVector<int> vertexSet(int polygon) const;
 
-    const int *setBegin(int p) const { return m_sets.Corners(p); }
-    const int *setEnd(int p) const { return m_sets.corners.constData() + m_setEnd[p]; }
-
-    PolygonList m_sets;      // the vertices of each polygon once, ascending, up to m_setEnd
-    QVector<int> m_setEnd;   // by polygon
-    QVector<int> m_start;    // by lowest vertex, and the end
-    QVector<int> m_gathered; // polygons by lowest vertex
+    const PolygonList &m_boundaries;
+    QVector<int> m_start;          // by lowest vertex, and the end
+    QVector<Candidate> m_gathered; // by lowest vertex
     QVector<bool> m_isLamina;
 };
 
-void LaminaSearch::makeSets()
-{
-    int *corners = m_sets.corners.data();
-    for (int p = 0; p < m_sets.Count(); ++p) {
-        int *begin = corners + m_sets.firstCorner[p];
-        int *end = corners + m_sets.firstCorner[p + 1];
-        std::sort(begin, end);
-        m_setEnd[p] = int(std::unique(begin, end) - corners);
-    }
-}
-
 void LaminaSearch::gather(int vertexCount)
 {
-    m_start.fill(0, vertexCount + 1);
-    m_gathered.resize(m_sets.Count());
-    for (int p = 0; p < m_sets.Count(); ++p) {
-        if (setBegin(p) != setEnd(p))
-            ++m_start[*setBegin(p) + 1];
-    }
-    std::partial_sum(m_start.begin(), m_start.end(), m_start.begin());
-    QVector<int> next = m_start;
-    for (int p = 0; p < m_sets.Count(); ++p) {
-        if (setBegin(p) != setEnd(p))
-            m_gathered[next[*setBegin(p)]++] = p;
-    }
-}
-
-void LaminaSearch::compare(QVector<int>::iterator begin, QVector<int>::iterator end)
-{
-    std::sort(begin, end, [this](int p, int q) { return isBefore(p, q); });
-    for (auto p = begin; p != end && p + 1 != end; ++p) {
-        if (!isBefore(*p, *(p + 1))) {
-            m_isLamina[*p] = true;
-            m_isLamina[*(p + 1)] = true;
+    const auto forEachPolygon = [this](auto visit) {
+        for (int p = 0; p < m_boundaries.Count(); ++p) {
+            const int *begin = m_boundaries.Corners(p);
+            const int *end = begin + m_boundaries.CornerCount(p);
+            if (begin != end)
+                visit(*std::min_element(begin, end), *std::max_element(begin, end), p);
         }
+    };
+    m_start.fill(0, vertexCount + 1);
+    int *count = m_start.data() + 1;
+    forEachPolygon([count](int lowest, int, int) { ++count[lowest]; });
+    std::partial_sum(m_start.begin(), m_start.end(), m_start.begin());
+    m_gathered.resize(m_start.last());
+    QVector<int> next = m_start;
+    int *place = next.data();
+    Candidate *gathered = m_gathered.data();
+    forEachPolygon([place, gathered](int lowest, int highest, int polygon) {
+        gathered[place[lowest]++] = {highest, polygon};
+    });
+}
+
+void LaminaSearch::search(Candidate *begin, Candidate *end)
+{
+    std::sort(begin, end,
+              [](const Candidate &a, const Candidate &b) { return a.highest < b.highest; });
+    while (begin != end) {
+        const Candidate *first = begin;
+        while (begin != end && begin->highest == first->highest)
+            ++begin;
+        if (begin - first > 1)
+            compare(first, begin);
     }
 }
 
-bool LaminaSearch::isBefore(int p, int q) const
+void LaminaSearch::compare(const Candidate *begin, const Candidate *end)
 {
-    return std::lexicographical_compare(setBegin(p), setEnd(p), setBegin(q), setEnd(q));
+    QVector<QPair<QVector<int>, int>> sets;
+    for (const Candidate *candidate = begin; candidate != end; ++candidate)
+        sets.append({vertexSet(candidate->polygon), candidate->polygon});
+    std::sort(sets.begin(), sets.end());
+    for (int i = 1; i < sets.size(); ++i) {
+        if (sets[i - 1].first == sets[i].first)
+            m_isLamina[sets[i - 1].second] = m_isLamina[sets[i].second] = true;
+    }
+}
+
+QVector<int> LaminaSearch::vertexSet(int polygon) const
+{
+    const int *corners = m_boundaries.Corners(polygon);
+    QVector<int> set(corners, corners + m_boundaries.CornerCount(polygon));
+    std::sort(set.begin(), set.end());
+    set.erase(std::unique(set.begin(), set.end()), set.end());
+    return set;
 }
 
 } // namespace

@@ -97,19 +97,23 @@ double diagonalOf(const PolygonList &boundaries, const Mesh &mesh)
 
 MeshShape::MeshShape(const Mesh &source)
     : mesh(source),
-      polygons(polygonsOf(source)),
+      polygons(source.IsUpdated() ? source.Polygons() : polygonsOf(source)),
       boundaries(boundariesOf(polygons, source.VertexCount())),
-      edges(edgesOf(boundaries, source.VertexCount())),
+      edges(source.IsUpdated() && boundaries.corners.constData() == polygons.corners.constData()
+                ? source.Edges()
+                : edgesOf(boundaries, source.VertexCount())),
       edgesAt(source.VertexCount(), 0),
       boundaryEdgesAt(source.VertexCount(), 0),
       zeroLength(ZeroLengthFraction * diagonalOf(boundaries, source))
 {
+    int *all = edgesAt.data();
+    int *open = boundaryEdgesAt.data();
     for (const MeshEdge &edge : qAsConst(edges)) {
         const int boundary = edge.polygons == 1 ? 1 : 0;
-        ++edgesAt[edge.a];
-        ++edgesAt[edge.b];
-        boundaryEdgesAt[edge.a] += boundary;
-        boundaryEdgesAt[edge.b] += boundary;
+        ++all[edge.a];
+        ++all[edge.b];
+        open[edge.a] += boundary;
+        open[edge.b] += boundary;
     }
 }
 

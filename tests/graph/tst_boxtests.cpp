@@ -33,18 +33,12 @@ AxisAlignedBoundingBox randomBox(std::mt19937 &random)
     return snappedBox(box);
 }
 
-BoxList randomBoxes(std::mt19937 &random, int count)
+BoxList randomBoxes(std::mt19937 &random, int count, Lanes lanes = widestLanes())
 {
-    BoxList boxes(count);
+    BoxList boxes(count, lanes);
     for (int i = 0; i < count; ++i)
         boxes.set(i, randomBox(random));
     return boxes;
-}
-
-BoxColumns columnsOf(const BoxList &boxes)
-{
-    return {{boxes.minimum(0), boxes.minimum(1), boxes.minimum(2)},
-            {boxes.maximum(0), boxes.maximum(1), boxes.maximum(2)}};
 }
 
 QVector<int> overlappingByRule(const BoxList &boxes, int first, int last,
@@ -67,18 +61,22 @@ TEST_P(BoxTests, anyNumberOfBoxesIsAnsweredAsOneByOne)
 {
     if (!hasLanes(GetParam()))
         GTEST_SKIP() << "not on this processor";
-    const BoxTest test = boxTest(GetParam());
     std::mt19937 random(testSeed());
     int found = 0;
     for (int round = 0; round < 20000; ++round) {
         const int count = int(random() % 50);
-        const BoxList boxes = randomBoxes(random, count);
+        const BoxList boxes = randomBoxes(random, count, GetParam());
         const AxisAlignedBoundingBox box = randomBox(random);
-        const int first = int(random() % unsigned(count + 1));
-        const int last = first + int(random() % unsigned(count - first + 1));
-        QVector<int> hits(last - first + BoxLanes);
-        hits.resize(test(columnsOf(boxes), first, last, box, hits.data()));
-        ASSERT_EQ(hits, overlappingByRule(boxes, first, last, box)) << "round " << round;
+        BoxSpan spans[3];
+        QVector<int> expected;
+        for (BoxSpan &span : spans) {
+            span.first = int(random() % unsigned(count + 1));
+            span.last = span.first + int(random() % unsigned(count - span.first + 1));
+            expected += overlappingByRule(boxes, span.first, span.last, box);
+        }
+        QVector<int> hits(3 * count + BoxLanes);
+        hits.resize(boxes.overlapping(spans, 3, box, hits.data()));
+        ASSERT_EQ(hits, expected) << "round " << round;
         found += hits.size();
     }
     EXPECT_GT(found, 1000);

@@ -193,6 +193,41 @@ TEST(Mesh, bringsItsPolygonsUpToDateOnlyWithItsTopology)
     EXPECT_EQ(mesh->Edges().size(), 4);
 }
 
+TEST(Mesh, noticesWhateverChangesItsPolygonsOrEdges)
+{
+    const MeshPointer mesh(gridOfTriangles(1, 1));
+    const auto expectChange = [&mesh](const char *change) {
+        EXPECT_FALSE(mesh->IsUpdated()) << change;
+        mesh->Update(false, 0);
+        EXPECT_FALSE(mesh->IsUpdated()) << change;
+        mesh->Update(true, 0);
+        EXPECT_TRUE(mesh->IsUpdated()) << change;
+        const orvane::PolygonList polygons = polygonsOf(*mesh);
+        EXPECT_EQ(mesh->Polygons().corners, polygons.corners) << change;
+        EXPECT_EQ(mesh->Polygons().uvCorners, polygons.uvCorners) << change;
+        EXPECT_EQ(mesh->Polygons().firstCorner, polygons.firstCorner) << change;
+        EXPECT_EQ(mesh->Polygons().firstFace, polygons.firstFace) << change;
+        EXPECT_EQ(mesh->Edges().size(), edgesOf(polygons, mesh->VertexCount()).size()) << change;
+    };
+    mesh->Update(true, 0);
+    mesh->SetVertexPosition(0, {1, 2, 3});
+    EXPECT_TRUE(mesh->IsUpdated());
+    mesh->SetTriangleIndex(1, 2, 0);
+    expectChange("a corner");
+    mesh->SetFakeTriangle(1, true);
+    expectChange("a mark");
+    mesh->SetUVCount(1);
+    expectChange("texture coordinates");
+    mesh->SetUVIndex(0, 1, 0);
+    expectChange("the texture coordinate of a corner");
+    mesh->SetVertexCount(2);
+    expectChange("the vertices");
+    mesh->SetFaceCount(1);
+    expectChange("the faces");
+    ASSERT_TRUE(read(mesh.data(), written(mesh.data())));
+    EXPECT_TRUE(mesh->IsUpdated());
+}
+
 TEST(Mesh, keepsAMarkOfItsOwnChanges)
 {
     const MeshPointer mesh(singleTriangle());

@@ -15,10 +15,9 @@ namespace orvane {
 
 namespace {
 
-bool isIndex(int index, int count, const char *what)
+// Logs it; answers false.
+bool refuse(const char *what, int index, int count)
 {
-    if (index >= 0 && index < count)
-        return true;
     log(QStringLiteral("No %1 %2: the mesh has %3.")
             .arg(QLatin1String(what))
             .arg(index)
@@ -98,22 +97,17 @@ void Mesh::SetUVCount(int count)
     setVertexLimits(m_positions.size(), m_uvs.size());
 }
 
-void Mesh::SetVertexPosition(int vertex, const Vector &position)
-{
-    if (isIndex(vertex, VertexCount(), "vertex"))
-        m_positions[vertex] = position;
-}
-
-void Mesh::SetVertexNormal(int vertex, const Vector &normal)
-{
-    if (isIndex(vertex, VertexCount(), "vertex"))
-        m_normals[vertex] = normal;
-}
-
 void Mesh::SetTextureCoordinate(int uv, const UV &coordinate)
 {
-    if (isIndex(uv, UVCount(), "texture coordinate"))
+    if (uv >= 0 && uv < UVCount())
         m_uvs[uv] = coordinate;
+    else
+        refuse("texture coordinate", uv, UVCount());
+}
+
+bool Mesh::refuseVertex(int vertex) const
+{
+    return refuse("vertex", vertex, VertexCount());
 }
 
 void Mesh::RecomputeNormals(bool keepVertexNormals)
@@ -159,10 +153,11 @@ void Mesh::Update(bool topology, int)
     m_bounds = AxisAlignedBoundingBox();
     for (const Vector &position : qAsConst(m_positions))
         m_bounds.Extend(position);
-    if (!topology)
+    if (!topology || !m_facesChanged)
         return;
     m_polygons = polygonsOf(*this);
     m_edges = edgesOf(m_polygons, VertexCount());
+    m_facesChanged = false;
 }
 
 void Mesh::SetChanged(bool changed)

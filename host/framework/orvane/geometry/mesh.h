@@ -52,6 +52,8 @@ public:
     const AxisAlignedBoundingBox &Bounds() const { return m_bounds; }
     const PolygonList &Polygons() const { return m_polygons; }
     const QVector<MeshEdge> &Edges() const { return m_edges; }
+    //! Are polygons and edges those of the faces as they are now?
+    bool IsUpdated() const { return !m_facesChanged; }
 
     //! Finds places on the mesh where it is now. Made at the first asking, and anew when the mesh
     //! has changed or moved since; good until then.
@@ -63,8 +65,16 @@ public:
     virtual void SetFakeTriangleCount(int count);
     virtual void SetUVCount(int count);
 
-    void SetVertexPosition(int vertex, const Vector &position);
-    void SetVertexNormal(int vertex, const Vector &normal);
+    void SetVertexPosition(int vertex, const Vector &position)
+    {
+        if (isVertex(vertex))
+            m_positions[vertex] = position;
+    }
+    void SetVertexNormal(int vertex, const Vector &normal)
+    {
+        if (isVertex(vertex))
+            m_normals[vertex] = normal;
+    }
     void SetTextureCoordinate(int uv, const UV &coordinate);
 
     //! Computes face normals, and vertex normals too unless the ones that were set are to stay.
@@ -84,6 +94,11 @@ public:
 private:
     friend class Geometry;
 
+    bool isVertex(int vertex) const
+    {
+        return (vertex >= 0 && vertex < VertexCount()) || refuseVertex(vertex);
+    }
+    bool refuseVertex(int vertex) const;
     Vector cornerPosition(FaceType type, int face, int corner) const;
     Vector placeAt(int slot) const { return m_positions.value(m_corners.at(slot)); }
     void addCornerAngles(int face);

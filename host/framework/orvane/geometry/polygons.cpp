@@ -4,11 +4,35 @@
 #include <orvane/geometry/topology.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace orvane {
 
+namespace {
+
+// Every face is a polygon of its own: the corners are shared with the mesh.
+PolygonList facesAsPolygons(const Topology &topology)
+{
+    const int faceCount = topology.FaceCount();
+    PolygonList list;
+    list.corners = topology.Corners();
+    list.uvCorners = topology.UVCorners();
+    list.firstFace.resize(faceCount);
+    list.firstCorner.resize(faceCount + 1);
+    int *firstFace = list.firstFace.data();
+    int *firstCorner = list.firstCorner.data();
+    std::iota(firstFace, firstFace + faceCount, 0);
+    for (int face = 0; face <= faceCount; ++face)
+        firstCorner[face] = face * topology.CornersPerFace();
+    return list;
+}
+
+} // namespace
+
 PolygonList polygonsOf(const Topology &topology)
 {
+    if (!topology.HasFakeTriangles())
+        return facesAsPolygons(topology);
     PolygonList list;
     const QVector<int> &corners = topology.Corners();
     const int perFace = topology.CornersPerFace();

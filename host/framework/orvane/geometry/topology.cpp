@@ -5,31 +5,10 @@
 
 namespace orvane {
 
-int Topology::VertexIndex(int face, int corner) const
-{
-    const int slot = cornerSlot(face, corner);
-    return slot < 0 ? -1 : m_corners[slot];
-}
-
-bool Topology::IsFakeTriangle(int face) const
-{
-    return m_type == Triangles && face >= 0 && face < m_fake.size() && m_fake[face];
-}
-
 int Topology::UVIndex(int face, int corner) const
 {
     const int slot = cornerSlot(face, corner);
     return slot < 0 || m_uvCorners.isEmpty() ? -1 : m_uvCorners[slot];
-}
-
-void Topology::SetTriangleIndex(int face, int corner, int vertex)
-{
-    setVertex(Triangles, face, corner, vertex);
-}
-
-void Topology::SetQuadIndex(int face, int corner, int vertex)
-{
-    setVertex(Quads, face, corner, vertex);
 }
 
 void Topology::SetFakeTriangle(int face, bool fake)
@@ -43,6 +22,7 @@ void Topology::SetFakeTriangle(int face, bool fake)
         m_fake.fill(0, FaceCount());
     if (!m_fake.isEmpty())
         m_fake[face] = fake;
+    m_facesChanged = true;
 }
 
 void Topology::SetUVIndex(int face, int corner, int uv)
@@ -58,10 +38,12 @@ void Topology::SetUVIndex(int face, int corner, int uv)
     if (m_uvCorners.isEmpty())
         m_uvCorners.fill(-1, m_corners.size());
     m_uvCorners[slot] = uv;
+    m_facesChanged = true;
 }
 
 void Topology::resizeFaces(int count)
 {
+    m_facesChanged = true;
     const int old = m_corners.size();
     m_corners.resize(qMax(0, count) * CornersPerFace());
     if (!m_fake.isEmpty())
@@ -81,31 +63,14 @@ void Topology::reserveFakes(int count)
 
 void Topology::setVertexLimits(int vertices, int uvs)
 {
+    m_facesChanged = true;
     m_vertexLimit = vertices;
     m_uvLimit = uvs;
 }
 
-int Topology::cornerSlot(int face, int corner) const
+void Topology::refuseVertex(int face, int corner, int vertex)
 {
-    const int corners = CornersPerFace();
-    if (face < 0 || corner < 0 || corner >= corners)
-        return -1;
-    // Asked for each corner of a mesh: a product is had sooner than the face count, a quotient.
-    const qint64 slot = qint64(face) * corners + corner;
-    return slot < m_corners.size() ? int(slot) : -1;
-}
-
-void Topology::setVertex(FaceType type, int face, int corner, int vertex)
-{
-    const int slot = cornerSlot(face, corner);
-    if (type != m_type || slot < 0 || vertex < 0 || vertex >= m_vertexLimit) {
-        log(QStringLiteral("No vertex %1 for corner %2 of face %3.")
-                .arg(vertex)
-                .arg(corner)
-                .arg(face));
-        return;
-    }
-    m_corners[slot] = vertex;
+    log(QStringLiteral("No vertex %1 for corner %2 of face %3.").arg(vertex).arg(corner).arg(face));
 }
 
 } // namespace orvane

@@ -19,17 +19,30 @@ public:
     bool IsQuads() const { return m_type == Quads; }
     int CornersPerFace() const { return m_type == Quads ? 4 : 3; }
     int FaceCount() const { return m_corners.size() / CornersPerFace(); }
-    int VertexIndex(int face, int corner) const;
+    int VertexIndex(int face, int corner) const
+    {
+        const int slot = cornerSlot(face, corner);
+        return slot < 0 ? -1 : m_corners[slot];
+    }
     //! Does the face continue the polygon of the face before it?
-    bool IsFakeTriangle(int face) const;
+    bool IsFakeTriangle(int face) const
+    {
+        return m_type == Triangles && face >= 0 && face < m_fake.size() && m_fake[face];
+    }
+    bool HasFakeTriangles() const { return m_fake.count(0) < m_fake.size(); }
     //! Texture coordinate of a corner, an index into the mesh's; -1 for none.
     int UVIndex(int face, int corner) const;
+    //! Parallel to Corners; empty while no corner has one.
+    const QVector<int> &UVCorners() const { return m_uvCorners; }
     bool HasUVs() const { return !m_uvCorners.isEmpty(); }
     //! Vertex numbers, face after face.
     const QVector<int> &Corners() const { return m_corners; }
 
-    void SetTriangleIndex(int face, int corner, int vertex);
-    void SetQuadIndex(int face, int corner, int vertex);
+    void SetTriangleIndex(int face, int corner, int vertex)
+    {
+        setVertex(Triangles, face, corner, vertex);
+    }
+    void SetQuadIndex(int face, int corner, int vertex) { setVertex(Quads, face, corner, vertex); }
     void SetFakeTriangle(int face, bool fake);
     void SetUVIndex(int face, int corner, int uv);
 
@@ -43,13 +56,32 @@ protected:
     void setVertexLimits(int vertices, int uvs);
 
     FaceType m_type;
-    QVector<int> m_corners;   // FaceCount() * CornersPerFace() vertex numbers
-    QVector<char> m_fake;     // by face; empty while no face is fake
-    QVector<int> m_uvCorners; // parallel to m_corners; empty while no corner has one
+    QVector<int> m_corners;     // FaceCount() * CornersPerFace() vertex numbers
+    QVector<char> m_fake;       // by face; empty while no face is fake
+    QVector<int> m_uvCorners;   // parallel to m_corners; empty while no corner has one
+    bool m_facesChanged = true; // or what limits them, since whoever derives from it cleared it
 
 private:
-    int cornerSlot(int face, int corner) const;
-    void setVertex(FaceType type, int face, int corner, int vertex);
+    // Asked for each corner of a mesh, so in line, and without the face count, a quotient.
+    int cornerSlot(int face, int corner) const
+    {
+        const int corners = CornersPerFace();
+        if (face < 0 || corner < 0 || corner >= corners)
+            return -1;
+        const qint64 slot = qint64(face) * corners + corner;
+        return slot < m_corners.size() ? int(slot) : -1;
+    }
+    void setVertex(FaceType type, int face, int corner, int vertex)
+    {
+        const int slot = cornerSlot(face, corner);
+        if (type != m_type || slot < 0 || vertex < 0 || vertex >= m_vertexLimit) {
+            refuseVertex(face, corner, vertex);
+            return;
+        }
+        m_corners[slot] = vertex;
+        m_facesChanged = true;
+    }
+    static void refuseVertex(int face, int corner, int vertex);
 
     int m_vertexLimit = 0;
     int m_uvLimit = 0;
