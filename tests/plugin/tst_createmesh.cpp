@@ -2,6 +2,7 @@
 #include "plugin/overlaylist.h"
 #include "plugin/quillmesh.h"
 #include "tests/plugin/toolscene.h"
+#include "tests/support/scenebytes.h"
 #include "ui/manualretopodialog.h"
 
 #include <orvane/geometry/geometry.h>
@@ -9,6 +10,8 @@
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/kernel/kernel.h>
 #include <orvane/kernel/scene.h>
+#include <orvane/kernel/selectalloperation.h>
+#include <orvane/operations/selectoperation.h>
 
 #include <cstring>
 
@@ -239,6 +242,26 @@ TEST_F(CreateMesh, eachRequestIsAStepOfItsOwnThatUndoTakesBack)
     EXPECT_TRUE(orvane::Kernel()->Undos().UndoText().isEmpty());
     ASSERT_TRUE(orvane::Kernel()->Redo());
     EXPECT_EQ(geometries(), 2);
+}
+
+// What the request deselects is no step, so that undo takes back what the user did and nothing
+// else; doing all again then leaves selected what the user selected.
+TEST_F(CreateMesh, undoneAndDoneAgainTheSceneIsTheSameButForWhatTheRequestDeselected)
+{
+    drawCell(sheet, {2, 2, 0}, 2.0f);
+    orvane::Geometry *source = orvane::Kernel()->Scene()->Geometries().constFirst();
+    orvane::SelectOperation selection({source});
+    ASSERT_TRUE(orvane::Kernel()->DoOperation(&selection, true, false));
+    createMesh();
+    EXPECT_FALSE(source->Selected());
+    const QByteArray before = sceneBytes();
+    ASSERT_TRUE(orvane::Kernel()->Undo() && orvane::Kernel()->Undo() && orvane::Kernel()->Redo()
+                && orvane::Kernel()->Redo());
+    EXPECT_TRUE(source->Selected());
+    EXPECT_NE(sceneBytes(), before);
+    orvane::SelectAllOperation deselection(false);
+    orvane::Kernel()->DoOperation(&deselection, false, false);
+    EXPECT_EQ(sceneBytes(), before);
 }
 
 TEST_F(CreateMesh, theNewMeshesAreBroughtUpToDateAtTheEnd)

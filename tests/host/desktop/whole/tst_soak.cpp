@@ -18,8 +18,8 @@
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/kernel/kernel.h>
-#include <orvane/kernel/pluginloader.h>
 #include <orvane/kernel/scene.h>
+#include <orvane/kernel/selectalloperation.h>
 
 #include <QAction>
 #include <QApplication>
@@ -44,10 +44,7 @@ class SoakTest : public WindowTest
 protected:
     SoakTest()
     {
-        openWindow(&m_plugins);
-        m_plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-        m_plugins.Load();
-        m_plugins.Initialise();
+        openWindowWithPlugins(QStringLiteral(QUILLMESH_PLUGIN_DIR));
         m_window->resize(m_window->minimumSizeHint());
         writeBall();
     }
@@ -136,21 +133,27 @@ protected:
         return saved.open(QIODevice::ReadOnly) ? saved.readAll() : QByteArray();
     }
 
+    // A creation deselects meshes first, which is no step: done again, they stay selected.
+    static QByteArray bytesWithoutSelectedMeshes()
+    {
+        orvane::SelectAllOperation deselection(false);
+        Kernel()->DoOperation(&deselection, false, false);
+        return sceneBytes();
+    }
+
     // Back to the oldest step that is kept and forward again. A creation that is done again asks
     // about faults again, so somebody must be there to answer as before.
     void expectAllUndone()
     {
-        const QByteArray before = sceneBytes();
+        const QByteArray before = bytesWithoutSelectedMeshes();
         const int position = Kernel()->Undos().Position();
         for (int i = 0; i < position; ++i)
             ASSERT_TRUE(Kernel()->Undo()) << qPrintable(Kernel()->Undos().UndoText());
         EXPECT_FALSE(Kernel()->Undos().CanUndo());
         for (int i = 0; i < position; ++i)
             ASSERT_TRUE(Kernel()->Redo()) << qPrintable(Kernel()->Undos().RedoText());
-        EXPECT_EQ(sceneBytes(), before);
+        EXPECT_EQ(bytesWithoutSelectedMeshes(), before);
     }
-
-    orvane::PluginLoader m_plugins;
 
 private:
     int m_openings = 0;

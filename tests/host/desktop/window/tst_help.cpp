@@ -9,7 +9,6 @@
 #include "tests/host/widgets/helpwindow.h"
 
 #include <orvane/base/log.h>
-#include <orvane/kernel/pluginloader.h>
 
 #include <QAction>
 #include <QApplication>
@@ -104,11 +103,7 @@ TEST_F(Help, theSearchFindsAToolsPageFromTheFirstPage)
 
 TEST_F(Help, theSheetListsWhatEveryKeyDoes)
 {
-    orvane::PluginLoader plugins;
-    plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-    openWindow(&plugins);
-    plugins.Load();
-    plugins.Initialise();
+    openWindowWithPlugins(QStringLiteral(QUILLMESH_PLUGIN_DIR));
     const QString sheet =
         textOfDialog("shortcutSheet", "shortcutText", [this] { press(Qt::Key_H); });
     ASSERT_FALSE(sheet.isEmpty());
@@ -135,18 +130,17 @@ TEST_F(Help, theSheetListsWhatEveryKeyDoes)
 
 TEST_F(Help, theAboutBoxListsThePluginsThatAreLoaded)
 {
-    orvane::PluginLoader plugins;
-    plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-    openWindow(&plugins);
+    m_plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
+    openWindow(&m_plugins);
     const auto about = [this] {
         action("about")->trigger();
     };
     EXPECT_TRUE(textOfDialog("aboutDialog", "aboutText", about)
                     .contains(QStringLiteral("None was found.")));
-    plugins.Load();
-    plugins.Initialise();
-    ASSERT_EQ(plugins.Entries().size(), 1);
-    const orvane::PluginLoader::Entry entry = plugins.Entries().constFirst();
+    m_plugins.Load();
+    m_plugins.Initialise();
+    ASSERT_EQ(m_plugins.Entries().size(), 1);
+    const orvane::PluginLoader::Entry entry = m_plugins.Entries().constFirst();
     const QString text = textOfDialog("aboutDialog", "aboutText", about);
     EXPECT_TRUE(text.contains(QCoreApplication::applicationVersion()));
     EXPECT_TRUE(text.contains(entry.name + QStringLiteral(" \u2013 at work"))) << qPrintable(text);

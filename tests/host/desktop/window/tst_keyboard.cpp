@@ -10,7 +10,6 @@
 
 #include <orvane/kernel/kernel.h>
 #include <orvane/kernel/language.h>
-#include <orvane/kernel/pluginloader.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -93,43 +92,12 @@ protected:
                 << " " << qPrintable(button->text());
         }
     }
-
-    // Looks at the dialog that the action opens, and closes it by Esc.
-    template <typename Look>
-    void inDialog(const char *name, Look look)
-    {
-        bool seen = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (!dialog)
-                return;
-            if (!seen)
-                look(*dialog);
-            seen = true;
-            if (QWidget *popup = QApplication::activePopupWidget())
-                popup->close(); // proposals of a field
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        });
-        timer.start(20);
-        action(name)->trigger();
-        EXPECT_TRUE(seen) << name;
-    }
 };
 
-// A process runs a plug-in's initialiser once.
 class PluginKeyboard : public Keyboard
 {
 protected:
-    void SetUp() override
-    {
-        m_plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-        openWindow(&m_plugins);
-        m_plugins.Load();
-        m_plugins.Initialise();
-    }
-
-    orvane::PluginLoader m_plugins;
+    void SetUp() override { openWindowWithPlugins(QStringLiteral(QUILLMESH_PLUGIN_DIR)); }
 };
 
 QChar letterOf(const QString &text)

@@ -9,7 +9,6 @@
 #include "tests/host/widgets/helpwindow.h"
 
 #include <orvane/kernel/language.h>
-#include <orvane/kernel/pluginloader.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -158,39 +157,16 @@ protected:
         return QString();
     }
 
-    // Looks at the dialog that the action opens, and closes it.
-    void inDialog(const char *name)
+    void expectDialogFits(const char *name)
     {
-        bool seen = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (!dialog)
-                return;
-            timer.stop();
-            seen = true;
-            expectAllFit(*dialog);
-            dialog->close();
-        });
-        timer.start(50);
-        action(name)->trigger();
-        EXPECT_TRUE(seen) << name;
+        inDialog(name, [](QWidget &dialog) { expectAllFit(dialog); });
     }
 };
 
-// A process runs a plug-in's initialiser once.
 class PluginTextFits : public TextFits
 {
 protected:
-    void SetUp() override
-    {
-        m_plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-        openWindow(&m_plugins);
-        m_plugins.Load();
-        m_plugins.Initialise();
-    }
-
-    orvane::PluginLoader m_plugins;
+    void SetUp() override { openWindowWithPlugins(QStringLiteral(QUILLMESH_PLUGIN_DIR)); }
 };
 
 } // namespace
@@ -265,7 +241,7 @@ TEST_P(TextFits, inEveryDialog)
 {
     openExample();
     for (const char *name : {"preferences", "shortcuts", "about"})
-        inDialog(name);
+        expectDialogFits(name);
     for (const char *name : {"macro", "log", "help"}) {
         action(name)->trigger();
         settle();

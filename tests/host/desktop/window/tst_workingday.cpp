@@ -17,7 +17,6 @@
 #include <orvane/geometry/subdivisionlevel.h>
 #include <orvane/geometry/surfacelocator.h>
 #include <orvane/kernel/kernel.h>
-#include <orvane/kernel/pluginloader.h>
 #include <orvane/kernel/scene.h>
 
 #include <QAction>
@@ -127,13 +126,9 @@ protected:
 
 TEST_F(WorkingDay, endsWithAMeshThatWasDrawn)
 {
-    orvane::PluginLoader plugins;
-    plugins.AddFolder(QStringLiteral(QUILLMESH_PLUGIN_DIR));
-    openWindow(&plugins);
-    plugins.Load();
-    plugins.Initialise();
-    ASSERT_EQ(plugins.Entries().size(), 1);
-    ASSERT_EQ(plugins.Entries().constFirst().state, orvane::PluginLoader::State::Initialised);
+    openWindowWithPlugins(QStringLiteral(QUILLMESH_PLUGIN_DIR));
+    ASSERT_EQ(m_plugins.Entries().size(), 1);
+    ASSERT_EQ(m_plugins.Entries().constFirst().state, orvane::PluginLoader::State::Initialised);
 
     // The example, one click away.
     auto *example = m_window->findChild<QAbstractButton *>(QStringLiteral("startExample"));
@@ -226,7 +221,7 @@ TEST_F(WorkingDay, endsWithAMeshThatWasDrawn)
     giveKeysBack();
     press(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(m_window->isVisible());
-    openWindow(&plugins);
+    openWindow(&m_plugins);
     QPushButton *recent = nullptr;
     for (QPushButton *button : m_window->findChildren<QPushButton *>()) {
         if (button->isVisible() && button->text() == QLatin1String("day.orvane"))

@@ -17,8 +17,9 @@
 
 namespace {
 
-const int Settling = 60;   // milliseconds
-const int LookAgain = 100; // milliseconds
+const int Settling = 60;      // milliseconds
+const int LookAgain = 100;    // milliseconds
+const int LookForDialog = 50; // milliseconds
 
 } // namespace
 
@@ -48,6 +49,34 @@ void WindowTest::openWindow(const orvane::PluginLoader *plugins)
     if (!QTest::qWaitForWindowExposed(m_window.data()))
         ADD_FAILURE() << "the window does not show";
     settle();
+}
+
+void WindowTest::openWindowWithPlugins(const QString &folder)
+{
+    m_plugins.AddFolder(folder);
+    openWindow(&m_plugins);
+    m_plugins.Load();
+    m_plugins.Initialise();
+}
+
+void WindowTest::inDialog(const char *name, const std::function<void(QWidget &)> &look)
+{
+    bool seen = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        if (!seen)
+            look(*dialog);
+        seen = true;
+        if (QWidget *popup = QApplication::activePopupWidget())
+            popup->close(); // proposals of a field
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    timer.start(LookForDialog);
+    action(name)->trigger();
+    EXPECT_TRUE(seen) << name;
 }
 
 QString WindowTest::file(const char *name) const

@@ -5,11 +5,15 @@
 
 #include "tests/support/scenecleaner.h"
 
+#include <orvane/kernel/pluginloader.h>
+
 #include <QFileDialog>
 #include <QPointer>
 #include <QScopedPointer>
 #include <QSettings>
 #include <QTemporaryDir>
+
+#include <functional>
 
 class QAction;
 
@@ -22,6 +26,11 @@ protected:
 
     //! Closes the window that is open, if any, and opens a new one on the same settings.
     void openWindow(const orvane::PluginLoader *plugins = nullptr);
+    //! A new window with the plug-ins of the folder. Once in a process: that often a plug-in's
+    //! initialiser runs.
+    void openWindowWithPlugins(const QString &folder);
+    //! Triggers the action, looks at the dialog that it opens and closes that by Esc.
+    void inDialog(const char *name, const std::function<void(QWidget &)> &look);
     //! A file of the test's own folder.
     QString file(const char *name) const;
     //! A cube as a mesh file there.
@@ -33,6 +42,7 @@ protected:
 
     QTemporaryDir m_folder;
     QSettings m_settings;
+    orvane::PluginLoader m_plugins; // outlives the window
     QScopedPointer<orvane::MainWindow> m_window;
 
 private:
