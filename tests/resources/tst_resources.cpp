@@ -217,6 +217,25 @@ TEST(Resources, eachIconOfTheDesktopIsThereInBothSizes)
     }
 }
 
+TEST(Resources, eachCursorIsThereInBothSizesWithACrossAtItsHotSpot)
+{
+    const QStringList sources = QDir(QStringLiteral(QUILLMESH_ICONS_DIR "/desktop/cursors"))
+                                    .entryList({QStringLiteral("*.svg")});
+    EXPECT_EQ(sources.size(), 8);
+    for (const QString &source : sources) {
+        SCOPED_TRACE(qPrintable(source));
+        const QString name = QStringLiteral("Icons/desktop/cursors/%1.png")
+                                 .arg(QFileInfo(source).completeBaseName());
+        for (const int ratio : {1, 2}) {
+            const QImage image = pictureOf(ratio == 2 ? doubled(name) : name);
+            ASSERT_EQ(image.size(), QSize(32, 32) * ratio);
+            for (const QPoint &arm : {QPoint(9, 4), QPoint(9, 14), QPoint(4, 9), QPoint(14, 9)})
+                EXPECT_EQ(qAlpha(image.pixel(arm * ratio)), 255);
+            EXPECT_EQ(qAlpha(image.pixel(QPoint(9, 9) * ratio)), 0) << "what is aimed at is seen";
+        }
+    }
+}
+
 TEST(Resources, eachPictureOfTheUserGuideIsThereAndShowsSomething)
 {
     const QStringList paths = picturesInPage(QStringLiteral(QUILLMESH_DOCS_DIR "/userguide.md"));

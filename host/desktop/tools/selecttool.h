@@ -17,7 +17,10 @@ public:
 
     ToolDescription Description() const override;
     const OrvaneCurve *HoveredCurve() const override;
-    QCursor Cursor() const override { return Qt::ArrowCursor; }
+    QCursor Cursor() const override
+    {
+        return m_area == Lasso ? Tool::Cursor() : QCursor(Qt::ArrowCursor);
+    }
     QVector<ViewShape> Shapes() const override;
 
 protected:

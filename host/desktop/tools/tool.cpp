@@ -51,7 +51,7 @@ void Tool::Leave()
 
 QCursor Tool::Cursor() const
 {
-    return Qt::CrossCursor;
+    return context().ToolCursor(Description().id);
 }
 
 void Tool::Cancel()

@@ -3,6 +3,7 @@
 
 #include "host/desktop/view/screenpick.h"
 
+#include <QCursor>
 #include <QString>
 
 namespace orvane {
@@ -34,6 +35,8 @@ public:
     //! What is shown and hides what is behind it.
     virtual SurfaceList VisibleSurfaces() = 0;
 
+    //! A cross with the picture of the tool of that id.
+    virtual QCursor ToolCursor(const QString &tool) = 0;
     //! The lines or shapes of the tool in hand have changed.
     virtual void Repaint() = 0;
     //! Tells the user something that fades soon.

@@ -6,12 +6,14 @@
 
 #include <orvane/kernel/interface.h>
 #include <orvane/kernel/kernel.h>
+#include <orvane/widgets/picture.h>
 
 namespace orvane {
 
 namespace {
 
 const int MessageTime = 3000; // milliseconds
+const int HotSpot = 9;        // of a cursor's picture, pixels from its upper left corner
 
 } // namespace
 
@@ -28,6 +30,18 @@ const SurfaceLocator *DesktopToolContext::Locator(const Geometry &geometry)
 SurfaceList DesktopToolContext::VisibleSurfaces()
 {
     return shownSurfaces();
+}
+
+QCursor DesktopToolContext::ToolCursor(const QString &tool)
+{
+    const auto found = m_cursors.constFind(tool);
+    if (found != m_cursors.cend())
+        return *found;
+    const QPixmap picture = loadPicture(QStringLiteral("Icons/desktop/cursors/%1.png").arg(tool),
+                                        m_viewport->devicePixelRatioF());
+    const QCursor cursor =
+        picture.isNull() ? QCursor(Qt::CrossCursor) : QCursor(picture, HotSpot, HotSpot);
+    return *m_cursors.insert(tool, cursor);
 }
 
 void DesktopToolContext::Repaint()

@@ -3,6 +3,8 @@
 
 #include "host/desktop/tools/toolcontext.h"
 
+#include <QHash>
+
 namespace orvane {
 
 class ViewportWidget;
@@ -21,12 +23,14 @@ public:
     const SurfaceLocator *Locator(const Geometry &geometry) override;
     SurfaceList VisibleSurfaces() override;
 
+    QCursor ToolCursor(const QString &tool) override;
     void Repaint() override;
     void ShowMessage(const QString &text) override;
 
 private:
     ViewportWidget *m_viewport;
     const ToolSettings *m_settings;
+    QHash<QString, QCursor> m_cursors; // by tool: views ask with every move of the pointer
 };
 
 } // namespace orvane

@@ -30,6 +30,7 @@ public:
         return orvane::locatorOf(&geometry);
     }
     orvane::SurfaceList VisibleSurfaces() override { return orvane::shownSurfaces(); }
+    QCursor ToolCursor(const QString &) override { return Qt::CrossCursor; }
     void Repaint() override { ++repaints; }
     void ShowMessage(const QString &text) override { messages.append(text); }
 

@@ -2,6 +2,7 @@
 #include "tests/host/desktop/window/windowtest.h"
 
 #include "host/desktop/document/document.h"
+#include "host/desktop/tools/tool.h"
 #include "host/desktop/tools/toolbox.h"
 #include "host/desktop/viewport/viewportwidget.h"
 #include "host/desktop/window/filecommands.h"
@@ -88,6 +89,25 @@ void whileDialogIsUp(const char *name, QAction *action, Look look)
 }
 
 } // namespace
+
+TEST_F(MainWindowTest, toolsThatDrawHaveCursorsOfTheirOwn)
+{
+    QSet<QByteArray> pictures;
+    for (const orvane::Tool *tool : m_window->Tools().Tools()) {
+        const QCursor cursor = tool->Cursor();
+        const QString id = tool->Description().id;
+        if (id == QLatin1String("select") || id == QLatin1String("move")) {
+            EXPECT_EQ(cursor.shape(), Qt::ArrowCursor) << "until there is a curve to take";
+            continue;
+        }
+        ASSERT_EQ(cursor.shape(), Qt::BitmapCursor) << qPrintable(id);
+        EXPECT_EQ(cursor.hotSpot(), QPoint(9, 9));
+        const QImage picture = cursor.pixmap().toImage();
+        pictures.insert(
+            {reinterpret_cast<const char *>(picture.constBits()), int(picture.sizeInBytes())});
+    }
+    EXPECT_EQ(pictures.size(), 8);
+}
 
 TEST_F(MainWindowTest, everyCommandHasANameATextAndATip)
 {
