@@ -11,8 +11,8 @@
 #include <orvane/kernel/pluginloader.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
+#include <QKeyEvent>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QSurfaceFormat>
@@ -68,12 +68,14 @@ QSettings *newSettings(const QTemporaryDir &folder, bool testMode)
     return new QSettings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
 }
 
-// Nobody is there to answer a dialog while a picture is to be taken: each is accepted.
-void acceptDialogs(QTimer &timer)
+// Nobody is there to answer a dialog while a picture is to be taken: each gets what Enter answers.
+void answerDialogs(QTimer &timer)
 {
     QObject::connect(&timer, &QTimer::timeout, [] {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-            dialog->accept();
+        if (QWidget *dialog = QApplication::activeModalWidget()) {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(dialog, &enter);
+        }
     });
     timer.start(DrawingTime / 4);
 }
@@ -106,7 +108,7 @@ int run(const orvane::Options &options, QSettings *settings)
     window.show();
     QTimer answering;
     if (!options.screenshot.isEmpty())
-        acceptDialogs(answering);
+        answerDialogs(answering);
     if (options.recovery && options.screenshot.isEmpty())
         window.Files().OfferRecovery();
     window.Files().Open(options.files);

@@ -148,6 +148,17 @@ TEST_F(Program, loadsThePluginsOfAFolderAndCarriesOutCommandsInTheirOrder)
     EXPECT_NE(turned, twice) << "the last one is the active one";
 }
 
+// At a limit of four edges the example's mesh has faults, about which the tool asks.
+TEST_F(Program, aPictureIsTakenThoughACommandAsks)
+{
+    const QStringList plain = withPlugin(example());
+    const QImage before = picture(plain);
+    const QImage after = picture(
+        plain
+        + QStringList{QStringLiteral("--command"), QStringLiteral("manualretopo 4 0.3 0.05 35 0")});
+    EXPECT_NE(after, before) << "the mesh was accepted";
+}
+
 TEST_F(Program, aPluginThatIsBrokenStopsNothing)
 {
     QDir(m_folder.path()).mkdir(QStringLiteral("broken"));
