@@ -190,7 +190,7 @@ bool BuildJob::writePicture(const ManualRetopoOperation &operation, QString *err
     for (const orvane::OrvaneCurve *curve : m_curves)
         content.curves.append(curve);
     for (IntersectionNode *seed : operation.Subgraphs()) {
-        walkGraph(seed, 0, [&content](const IntersectionNode *node) {
+        walkGraph(seed, [&content](const IntersectionNode *node) {
             content.crossings.append(node->position());
         });
     }

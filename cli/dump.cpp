@@ -104,7 +104,7 @@ QByteArray nodeJson(const IntersectionNode &node, const CurveNumbers &curveNumbe
 QByteArray pieceJson(IntersectionNode *seed, const CurveNumbers &curveNumbers)
 {
     QVector<const IntersectionNode *> nodes;
-    walkGraph(seed, 0, [&nodes](const IntersectionNode *node) { nodes.append(node); });
+    walkGraph(seed, [&nodes](const IntersectionNode *node) { nodes.append(node); });
     return "{\"seed\": " + QByteArray::number(seed->vertexIndex) + ", \"nodes\": "
            + list(nodes.size(), ",\n  ", [&](int i) { return nodeJson(*nodes[i], curveNumbers); })
            + '}';

@@ -6,18 +6,17 @@
 #include <QVector>
 
 //! Visits each node that can be reached from start once, depth first: the neighbour pushed last,
-//! so the last of its list, comes next. A node with fewer neighbours than minimumDegree is neither
-//! visited nor passed through. The visitor may reorder the neighbours of the node it is given,
-//! and they are followed in the new order; it must not walk the same graph itself. A null start
-//! visits nothing.
+//! so the last of its list, comes next. The visitor may reorder the neighbours of the node it is
+//! given, and they are followed in the new order; it must not walk the same graph itself. A null
+//! start visits nothing.
 template <typename Visitor>
-void walkGraph(IntersectionNode *start, int minimumDegree, Visitor visit)
+void walkGraph(IntersectionNode *start, Visitor visit)
 {
     QVector<IntersectionNode *> stack{start};
     NodeMarks visited;
     while (!stack.isEmpty()) {
         IntersectionNode *node = stack.takeLast();
-        if (!node || node->neighbourCount() < minimumDegree || visited.has(node))
+        if (!node || visited.has(node))
             continue;
         visited.set(node);
         visit(node);

@@ -14,7 +14,7 @@ namespace {
 QVector<IntersectionNode *> numberVertices(IntersectionNode *start, MeshBuilder &builder)
 {
     QVector<IntersectionNode *> nodes;
-    walkGraph(start, 0, [&nodes, &builder](IntersectionNode *node) {
+    walkGraph(start, [&nodes, &builder](IntersectionNode *node) {
         node->vertexIndex = nodes.size();
         nodes.append(node);
         builder.positions.append(node->position());

@@ -15,7 +15,7 @@ using Side = QPair<int, int>; // vertex numbers, the lower first
 QVector<const IntersectionNode *> nodesByNumber(IntersectionNode *seed, int count)
 {
     QVector<const IntersectionNode *> nodes(count, nullptr);
-    walkGraph(seed, 0, [&](const IntersectionNode *node) {
+    walkGraph(seed, [&](const IntersectionNode *node) {
         if (node->vertexIndex >= 0 && node->vertexIndex < count)
             nodes[node->vertexIndex] = node;
     });

@@ -186,7 +186,7 @@ void noteNestedPieces(RunReport &report, const QList<IntersectionNode *> &seeds,
     sweep(starts, faces, [&](const Probe &start, const QSet<Cell> &cells) {
         if (cells.isEmpty())
             return;
-        walkGraph(seeds[start.piece], 0, [&](const IntersectionNode *node) {
+        walkGraph(seeds[start.piece], [&](const IntersectionNode *node) {
             nodes.append({node->position(), start.piece});
         });
     });

@@ -120,7 +120,7 @@ void drawOverlay(const OverlayPrograms &programs, IntersectionNode *start)
     const orvane::Matrix matrix = viewMatrix();
     const OverlayPainter painter(programs, matrix);
     QVector<const IntersectionNode *> visited;
-    walkGraph(start, 0, [&painter, &visited](const IntersectionNode *node) {
+    walkGraph(start, [&painter, &visited](const IntersectionNode *node) {
         painter.drawStrokes(*node);
         visited.append(node);
     });

@@ -33,7 +33,7 @@ protected:
     static QList<IntersectionNode *> reachedFrom(IntersectionNode *start)
     {
         QList<IntersectionNode *> reached;
-        walkGraph(start, 0, [&](IntersectionNode *node) { reached.append(node); });
+        walkGraph(start, [&](IntersectionNode *node) { reached.append(node); });
         return reached;
     }
 };

@@ -28,7 +28,7 @@ protected:
     {
         QList<IntersectionNode *> nodes;
         for (IntersectionNode *seed : seeds)
-            walkGraph(seed, 0, [&](IntersectionNode *node) { nodes.append(node); });
+            walkGraph(seed, [&](IntersectionNode *node) { nodes.append(node); });
         EXPECT_TRUE(isSound(nodes));
         return nodes.size();
     }

@@ -18,7 +18,7 @@ namespace {
 PlanarGraph graphOf(IntersectionNode *seed)
 {
     PlanarGraph graph;
-    walkGraph(seed, 0, [&graph](const IntersectionNode *node) {
+    walkGraph(seed, [&graph](const IntersectionNode *node) {
         const int vertex = node->vertexIndex;
         graph.positions.resize(qMax(graph.positions.size(), vertex + 1));
         graph.positions[vertex] = node->position();
