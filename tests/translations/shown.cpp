@@ -11,10 +11,14 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QTest>
 
 namespace {
 
 const int AllFaults = 0xf0f0f;
+
+// The fading of a search field's clear button outlives the field, and is freed by its next step.
+const int StepsOfFading = 100; // ms
 
 // Notes which widgets there were before; those that are not shown yet have no parent to ask.
 class NewWidgets
@@ -83,5 +87,6 @@ QSet<QString> textsOfMissingPage(const QString &identifier)
         if (window->objectName() == QLatin1String("HelpViewer"))
             delete window; // the next one is made in the language of its time
     }
+    QTest::qWait(StepsOfFading);
     return texts;
 }
