@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graph/nodestore.h"
 
-#include "graph/intersectionnode.h"
+#include <algorithm>
+#include <utility>
 
 NodeStore &NodeStore::instance()
 {
@@ -9,44 +10,36 @@ NodeStore &NodeStore::instance()
     return store;
 }
 
-NodeStore::~NodeStore()
-{
-    for (const Run &run : qAsConst(m_runs))
-        qDeleteAll(run.nodes);
-}
-
 int NodeStore::nodeCount() const
 {
-    int count = 0;
-    for (const Run &run : m_runs)
-        count += run.nodes.size();
-    return count;
+    std::size_t count = 0;
+    for (const Run &run : m_runs) {
+        for (const std::vector<IntersectionNode> &nodes : run.nodes)
+            count += nodes.size();
+    }
+    return int(count);
 }
 
 void NodeStore::beginRun()
 {
-    QVector<Run> kept;
-    for (const Run &run : qAsConst(m_runs)) {
-        if (run.holders > 0)
-            kept.append(run);
-        else
-            qDeleteAll(run.nodes);
-    }
-    kept.append(Run());
-    m_runs = kept;
+    const auto isFree = [](const Run &run) {
+        return run.holders <= 0;
+    };
+    m_runs.erase(std::remove_if(m_runs.begin(), m_runs.end(), isFree), m_runs.end());
+    m_runs.emplace_back();
 }
 
-void NodeStore::own(IntersectionNode *node)
+void NodeStore::own(std::vector<IntersectionNode> &&nodes)
 {
-    if (m_runs.isEmpty())
+    if (m_runs.empty())
         beginRun();
-    m_runs.last().nodes.append(node);
+    m_runs.back().nodes.push_back(std::move(nodes));
 }
 
 void NodeStore::setSeeds(const QList<IntersectionNode *> &seeds)
 {
-    if (!m_runs.isEmpty())
-        m_runs.last().seeds = seeds;
+    if (!m_runs.empty())
+        m_runs.back().seeds = seeds;
 }
 
 void NodeStore::hold(const QList<IntersectionNode *> &seeds)

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QList>
-#include <QVector>
+#include "graph/intersectionnode.h"
 
-class IntersectionNode;
+#include <QList>
+
+#include <vector>
 
 //! Owns the intersection nodes of every run, and frees a run once nothing lists its seeds.
 //! An undo frees nothing: overlays and copies of an operation still point to the nodes.
@@ -12,7 +13,6 @@ class NodeStore
 {
 public:
     static NodeStore &instance();
-    ~NodeStore();
     NodeStore(const NodeStore &) = delete;
     NodeStore &operator=(const NodeStore &) = delete;
 
@@ -21,8 +21,8 @@ public:
 
     //! Frees the runs that nobody holds; nodes made from now on belong to a new run.
     void beginRun();
-    //! The current run takes the node over.
-    void own(IntersectionNode *node);
+    //! The current run takes the nodes over; they stay where they are.
+    void own(std::vector<IntersectionNode> &&nodes);
     //! These are the seeds of the current run: a list with any of them stands for it from now on.
     void setSeeds(const QList<IntersectionNode *> &seeds);
 
@@ -34,7 +34,7 @@ public:
 private:
     struct Run
     {
-        QVector<IntersectionNode *> nodes; // owned
+        std::vector<std::vector<IntersectionNode>> nodes; // as they were handed over
         QList<IntersectionNode *> seeds;
         int holders = 0;
     };
@@ -42,5 +42,5 @@ private:
     NodeStore() = default;
     Run *runOf(const QList<IntersectionNode *> &seeds);
 
-    QVector<Run> m_runs; // the current one last
+    std::vector<Run> m_runs; // the current one last
 };

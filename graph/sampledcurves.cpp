@@ -6,7 +6,6 @@
 
 #include <orvane/geometry/orvanecurve.h>
 
-#include <cmath>
 #include <limits>
 
 using orvane::AxisAlignedBoundingBox;
@@ -68,13 +67,6 @@ void SampledCurves::makeRuns()
     m_runBoxes.resize(m_runs.size());
     for (int i = 0; i < m_runs.size(); ++i)
         m_runBoxes.set(i, m_segmentBoxes.around(m_runs[i].first, m_runs[i].last));
-}
-
-const Vector &SampledCurves::normal(int sample)
-{
-    if (std::isnan(m_normals[sample].x))
-        findNormals(sample);
-    return m_normals[sample];
 }
 
 // Many samples lie next to no crossing. Those next to each other lie near each other on the mesh:

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QVector>
 
+#include <cmath>
+
 namespace orvane {
 class OrvaneCurve;
 }
@@ -52,7 +54,12 @@ public:
     //! The curve that a sample is of.
     int curveOf(int sample) const { return m_curveOf[sample]; }
     //! Of the surface at a sample.
-    const orvane::Vector &normal(int sample);
+    const orvane::Vector &normal(int sample)
+    {
+        if (std::isnan(m_normals.at(sample).x))
+            findNormals(sample);
+        return m_normals.at(sample);
+    }
 
 private:
     void makeBoxes(SampledCurve &curve);

@@ -49,6 +49,8 @@ void SortedBoxes::assign(const BoxList &boxes, const QVector<int> &numbers)
 {
     m_numbers.resize(numbers.size());
     std::copy(numbers.cbegin(), numbers.cend(), m_numbers.begin());
+    m_last = numbers.isEmpty() ? -1 : numbers.last();
+    m_found.resize(m_last + 1);
     // As many groups in a strip as there are strips.
     m_groupsPerStrip = 1 + int(std::sqrt(m_numbers.size() / GroupSize));
     sort(boxes);
@@ -84,14 +86,15 @@ void SortedBoxes::overlapping(const AxisAlignedBoundingBox &box, int first,
                               QVector<int> &numbers) const
 {
     numbers.resize(0);
+    if (first > m_last)
+        return;
     const int strips = m_strips.overlapping(0, m_strips.size(), box, m_stripHits.data());
     for (int i = 0; i < strips; ++i)
-        searchStrip(m_stripHits[i], box, first, numbers);
-    std::sort(numbers.begin(), numbers.end());
+        searchStrip(m_stripHits[i], box);
+    m_found.takeFrom(first, numbers);
 }
 
-void SortedBoxes::searchStrip(int strip, const AxisAlignedBoundingBox &box, int first,
-                              QVector<int> &numbers) const
+void SortedBoxes::searchStrip(int strip, const AxisAlignedBoundingBox &box) const
 {
     const int firstGroup = strip * m_groupsPerStrip;
     const int lastGroup = std::min(firstGroup + m_groupsPerStrip, m_groups.size());
@@ -102,9 +105,7 @@ void SortedBoxes::searchStrip(int strip, const AxisAlignedBoundingBox &box, int 
             ++i; // neighbours are looked through in one go
         const int ends = std::min((m_groupHits[i] + 1) * GroupSize, m_boxes.size());
         const int count = m_boxes.overlapping(begins, ends, box, m_hits.data());
-        for (int hit = 0; hit < count; ++hit) {
-            if (m_numbers[m_hits[hit]] >= first)
-                numbers.append(m_numbers[m_hits[hit]]);
-        }
+        for (int hit = 0; hit < count; ++hit)
+            m_found.add(m_numbers.at(m_hits.at(hit)));
     }
 }

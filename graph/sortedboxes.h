@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graph/boxlist.h"
+#include "graph/numberset.h"
 
 #include <QVector>
 
@@ -21,9 +22,9 @@ public:
 private:
     void sort(const BoxList &boxes);
     void makeLevels();
-    void searchStrip(int strip, const orvane::AxisAlignedBoundingBox &box, int first,
-                     QVector<int> &numbers) const;
+    void searchStrip(int strip, const orvane::AxisAlignedBoundingBox &box) const;
 
+    int m_last = -1;          // highest number
     int m_groupsPerStrip = 1; // but for the last
     QVector<int> m_numbers;   // by strip and place in it
     BoxList m_boxes;          // in the same order
@@ -32,4 +33,5 @@ private:
     mutable QVector<int> m_stripHits;
     mutable QVector<int> m_groupHits;
     mutable QVector<int> m_hits;
+    mutable NumberSet m_found;
 };

@@ -40,7 +40,7 @@ QVector<int> insertedOneByOne(const QVector<Crossing> &crossings, int curve)
 TEST(CurveRecords, crossingsGoByParameterAndEqualOnesInTheOrderTheyCame)
 {
     const CurveRecords records(
-        2, {{0, 2.0f, 1, 5.0f}, {0, 1.0f, 1, 4.0f}, {0, 2.0f, 1, 3.0f}, {0, 0.5f, 1, 5.0f}});
+        {3, 6}, {{0, 2.0f, 1, 5.0f}, {0, 1.0f, 1, 4.0f}, {0, 2.0f, 1, 3.0f}, {0, 0.5f, 1, 5.0f}});
     EXPECT_EQ(records.curveCount(), 2);
     EXPECT_EQ(crossingsOf(records, 0), (QVector<int>{3, 1, 0, 2}));
     EXPECT_EQ(crossingsOf(records, 1), (QVector<int>{2, 1, 0, 3}));
@@ -48,24 +48,38 @@ TEST(CurveRecords, crossingsGoByParameterAndEqualOnesInTheOrderTheyCame)
 
 TEST(CurveRecords, aCrossingOfACurveWithItselfIsThereTwice)
 {
-    const CurveRecords records(3, {{1, 0.5f, 1, 7.5f}, {1, 2.5f, 1, 4.5f}});
+    const CurveRecords records({2, 9, 0}, {{1, 0.5f, 1, 7.5f}, {1, 2.5f, 1, 4.5f}});
     EXPECT_TRUE(crossingsOf(records, 0).isEmpty());
     EXPECT_EQ(crossingsOf(records, 1), (QVector<int>{0, 1, 1, 0}));
     EXPECT_TRUE(crossingsOf(records, 2).isEmpty());
-    EXPECT_EQ(CurveRecords(0, {}).curveCount(), 0);
+    EXPECT_EQ(CurveRecords({}, {}).curveCount(), 0);
 }
 
+TEST(CurveRecords, aParameterThatIsRoundedUpToTheLastSampleStandsBehindAllOthers)
+{
+    const CurveRecords records({2, 2}, {{0, 2.0f, 1, 1.0f}, {0, 0.5f, 1, 2.0f}});
+    EXPECT_EQ(crossingsOf(records, 0), (QVector<int>{1, 0}));
+    EXPECT_EQ(crossingsOf(records, 1), (QVector<int>{0, 1}));
+}
+
+// Many samples with few crossings each, and few with many.
 TEST(CurveRecords, randomOnesStandAsIfInsertedOneByOne)
 {
     std::mt19937 random(testSeed());
     const int curves = 7;
-    QVector<Crossing> crossings;
-    for (int i = 0; i < 2000; ++i) {
-        const int a = int(random() % unsigned(curves));
-        const int b = a + int(random() % unsigned(curves - a));
-        crossings.append({a, float(random() % 100), b, float(random() % 100)});
+    for (const unsigned samples : {2u, 13u, 900u}) {
+        const auto parameter = [&random, samples] {
+            const float whole = float(random() % samples);
+            return random() % 2 == 0 ? whole : whole + randomBetween(random, 0.0f, 1.0f);
+        };
+        QVector<Crossing> crossings;
+        for (int i = 0; i < 2000; ++i) {
+            const int a = int(random() % unsigned(curves));
+            const int b = a + int(random() % unsigned(curves - a));
+            crossings.append({a, parameter(), b, parameter()});
+        }
+        const CurveRecords records(QVector<int>(curves, int(samples)), crossings);
+        for (int k = 0; k < curves; ++k)
+            EXPECT_EQ(crossingsOf(records, k), insertedOneByOne(crossings, k));
     }
-    const CurveRecords records(curves, crossings);
-    for (int k = 0; k < curves; ++k)
-        EXPECT_EQ(crossingsOf(records, k), insertedOneByOne(crossings, k));
 }

@@ -22,8 +22,9 @@ protected:
     QList<IntersectionNode *> newRun()
     {
         store.beginRun();
-        auto *node = new IntersectionNode; // the store's
-        store.own(node);
+        std::vector<IntersectionNode> nodes(1);
+        IntersectionNode *node = nodes.data();
+        store.own(std::move(nodes));
         store.setSeeds({node});
         return {node};
     }

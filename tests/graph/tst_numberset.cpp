@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "graph/numberset.h"
+#include "tests/support/shapes.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+TEST(NumberSet, numbersLeaveAscendingAndOnce)
+{
+    std::mt19937 random(testSeed());
+    NumberSet numbers;
+    for (int round = 0; round < 300; ++round) {
+        const int size = 1 + int(random() % 20000);
+        numbers.resize(size);
+        for (int time = 0; time < 3; ++time) { // what was taken is gone
+            const int first = int(random() % unsigned(size));
+            std::set<int> expected;
+            for (int i = int(random() % 200); i > 0; --i) {
+                const int number = int(random() % unsigned(size));
+                numbers.add(number);
+                if (number >= first)
+                    expected.insert(number);
+            }
+            QVector<int> taken{-1};
+            numbers.takeFrom(first, taken);
+            ASSERT_EQ(taken.takeFirst(), -1);
+            ASSERT_EQ(taken, QVector<int>(expected.begin(), expected.end())) << "round " << round;
+        }
+    }
+}
+
+TEST(NumberSet, anEmptyOneGivesNothing)
+{
+    NumberSet numbers;
+    QVector<int> taken;
+    numbers.takeFrom(0, taken);
+    numbers.resize(0);
+    numbers.takeFrom(0, taken);
+    EXPECT_TRUE(taken.isEmpty());
+}
