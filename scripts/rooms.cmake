@@ -31,7 +31,7 @@ else()
 endif()
 if(QUILLMESH_SANITIZE)
     target_compile_options(quillmesh_flags INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1 -g1)
     target_link_options(quillmesh_flags INTERFACE -fsanitize=address,undefined)
     # The vptr check needs each class's type information, which hidden visibility keeps apart.
     target_compile_options(quillmesh_flags INTERFACE -fno-sanitize=vptr)
