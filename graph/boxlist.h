@@ -3,6 +3,8 @@
 
 #include "graph/boxtests.h"
 
+#include <QtGlobal>
+
 #include <vector>
 
 //! A numbered list of snapped boxes, laid out so that many are tested at once.
@@ -25,21 +27,26 @@ public:
         box.maximum = {block.maximum[0][lane], block.maximum[1][lane], block.maximum[2][lane]};
         return box;
     }
-    //! Smallest and largest coordinate of a box along an axis.
-    float minimum(int i, int axis) const
-    {
-        return m_blocks[std::size_t(i / BoxLanes)].minimum[axis][i % BoxLanes];
-    }
-    float maximum(int i, int axis) const
-    {
-        return m_blocks[std::size_t(i / BoxLanes)].maximum[axis][i % BoxLanes];
-    }
     //! The box around those of [first, last). One with a side that is not a number overlaps
     //! nothing and counts for nothing.
     orvane::AxisAlignedBoundingBox around(int first, int last) const;
 
     void resize(int size);
     void set(int i, const orvane::AxisAlignedBoundingBox &box);
+
+    //! Starts to bring a box and those tested with it close to the processor.
+    void fetch(int i) const
+    {
+#if defined(__GNUC__)
+        const BoxBlock &block = m_blocks[std::size_t(i / BoxLanes)];
+        for (int axis = 0; axis < 3; ++axis) {
+            __builtin_prefetch(block.minimum[axis]);
+            __builtin_prefetch(block.maximum[axis]);
+        }
+#else
+        Q_UNUSED(i)
+#endif
+    }
 
     //! Writes down, ascending, the numbers of those boxes of [first, last) that overlap the box,
     //! and answers how many they are. hits has room for last - first + BoxLanes numbers.

@@ -78,8 +78,11 @@ void CrossingSearch::searchRun(int number, int firstOther, const SortedBoxes &ot
         m_runSpans.resize(count);
         m_hits.resize(count * RunLength + BoxLanes);
     }
-    for (int i = 0; i < count; ++i)
-        m_nearBoxes.set(i, m_sampled.runBoxes().at(m_nearRuns[i]));
+    for (int i = 0; i < count; ++i) {
+        const int near = m_nearRuns.at(i);
+        m_nearBoxes.set(i, m_sampled.runBoxes().at(near));
+        m_sampled.segmentBoxes().fetch(m_sampled.runs().at(near).first);
+    }
     const BoxSpan run = m_sampled.runs()[number];
     for (int segment = run.first; segment < run.last; ++segment)
         searchSegment(segment);

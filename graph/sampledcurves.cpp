@@ -64,9 +64,9 @@ void SampledCurves::makeBoxes(SampledCurve &curve)
 void SampledCurves::makeRuns()
 {
     m_normals.fill({std::numeric_limits<float>::quiet_NaN(), 0.0f, 0.0f}, m_positions.size());
-    m_runBoxes.resize(m_runs.size());
-    for (int i = 0; i < m_runs.size(); ++i)
-        m_runBoxes.set(i, m_segmentBoxes.around(m_runs[i].first, m_runs[i].last));
+    m_runBoxes.reserve(m_runs.size());
+    for (const BoxSpan &run : qAsConst(m_runs))
+        m_runBoxes.append(m_segmentBoxes.around(run.first, run.last));
 }
 
 // Many samples lie next to no crossing. Those next to each other lie near each other on the mesh:

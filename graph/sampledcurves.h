@@ -46,7 +46,7 @@ public:
     const QVector<BoxSpan> &runs() const { return m_runs; }
     //! Grown and snapped.
     const BoxList &segmentBoxes() const { return m_segmentBoxes; }
-    const BoxList &runBoxes() const { return m_runBoxes; }
+    const QVector<orvane::AxisAlignedBoundingBox> &runBoxes() const { return m_runBoxes; }
 
     int sampleCount() const { return m_positions.size(); }
     //! Its two ends.
@@ -74,5 +74,5 @@ private:
     QVector<orvane::Vector> m_normals; // by sample: NaN until someone asks
     BoxList m_segmentBoxes;
     QVector<BoxSpan> m_runs;
-    BoxList m_runBoxes;
+    QVector<orvane::AxisAlignedBoundingBox> m_runBoxes;
 };

@@ -11,15 +11,22 @@ namespace {
 
 const int GroupSize = 16; // boxes
 
+using Boxes = QVector<AxisAlignedBoundingBox>;
+
+float along(const orvane::Vector &v, int axis)
+{
+    return axis == 0 ? v.x : axis == 1 ? v.y : v.z;
+}
+
 // About how many boxes a box meets along the axis.
-double crowding(const BoxList &boxes, const QVector<int> &numbers, int axis)
+double crowding(const Boxes &boxes, const QVector<int> &numbers, int axis)
 {
     double widths = 0.0;
     float low = std::numeric_limits<float>::infinity();
     float high = -low;
     for (int number : numbers) {
-        const float minimum = boxes.minimum(number, axis);
-        const float maximum = boxes.maximum(number, axis);
+        const float minimum = along(boxes.at(number).minimum, axis);
+        const float maximum = along(boxes.at(number).maximum, axis);
         widths += double(maximum) - double(minimum);
         low = std::min(low, minimum);
         high = std::max(high, maximum);
@@ -28,10 +35,10 @@ double crowding(const BoxList &boxes, const QVector<int> &numbers, int axis)
     return std::isnan(result) ? std::numeric_limits<double>::infinity() : result;
 }
 
-void sortAlong(int axis, const BoxList &boxes, int *begin, int *end)
+void sortAlong(int axis, const Boxes &boxes, int *begin, int *end)
 {
     std::sort(begin, end, [&boxes, axis](int a, int b) {
-        return boxes.minimum(a, axis) < boxes.minimum(b, axis);
+        return along(boxes.at(a).minimum, axis) < along(boxes.at(b).minimum, axis);
     });
 }
 
@@ -45,7 +52,7 @@ void wrap(const BoxList &boxes, int size, BoxList &wrapped)
 
 } // namespace
 
-void SortedBoxes::assign(const BoxList &boxes, const QVector<int> &numbers)
+void SortedBoxes::assign(const Boxes &boxes, const QVector<int> &numbers)
 {
     m_numbers.resize(numbers.size());
     std::copy(numbers.cbegin(), numbers.cend(), m_numbers.begin());
@@ -57,7 +64,7 @@ void SortedBoxes::assign(const BoxList &boxes, const QVector<int> &numbers)
     makeLevels();
 }
 
-void SortedBoxes::sort(const BoxList &boxes)
+void SortedBoxes::sort(const Boxes &boxes)
 {
     const double crowdings[] = {crowding(boxes, m_numbers, 0), crowding(boxes, m_numbers, 1),
                                 crowding(boxes, m_numbers, 2)};

@@ -13,14 +13,14 @@ class SortedBoxes
 {
 public:
     //! Takes those boxes of the list that the numbers name, ascending.
-    void assign(const BoxList &boxes, const QVector<int> &numbers);
+    void assign(const QVector<orvane::AxisAlignedBoundingBox> &boxes, const QVector<int> &numbers);
 
     //! The numbers, ascending and none below first, of the boxes that overlap the box.
     void overlapping(const orvane::AxisAlignedBoundingBox &box, int first,
                      QVector<int> &numbers) const;
 
 private:
-    void sort(const BoxList &boxes);
+    void sort(const QVector<orvane::AxisAlignedBoundingBox> &boxes);
     void makeLevels();
     void searchStrip(int strip, const orvane::AxisAlignedBoundingBox &box) const;
 
