@@ -2,8 +2,7 @@
 #pragma once
 
 #include "graph/boxtests.h"
-
-#include <QtGlobal>
+#include "graph/fetch.h"
 
 #include <vector>
 
@@ -37,15 +36,11 @@ public:
     //! Starts to bring a box and those tested with it close to the processor.
     void fetch(int i) const
     {
-#if defined(__GNUC__)
         const BoxBlock &block = m_blocks[std::size_t(i / BoxLanes)];
         for (int axis = 0; axis < 3; ++axis) {
-            __builtin_prefetch(block.minimum[axis]);
-            __builtin_prefetch(block.maximum[axis]);
+            ::fetch(block.minimum[axis]);
+            ::fetch(block.maximum[axis]);
         }
-#else
-        Q_UNUSED(i)
-#endif
     }
 
     //! Writes down, ascending, the numbers of those boxes of [first, last) that overlap the box,

@@ -2,6 +2,7 @@
 #include "graph/crossingnodes.h"
 
 #include "graph/curverecords.h"
+#include "graph/fetch.h"
 
 using orvane::OrvaneCurve;
 using orvane::Vector;
@@ -33,8 +34,11 @@ QVector<LinksOfNode> linksAlongCurves(const QVector<Crossing> &crossings,
     QVector<LinksOfNode> links(crossings.size());
     for (int k = 0; k < curves.size(); ++k) {
         const int last = records.size(k) - 1;
-        for (int i = 0; i < last; ++i)
+        for (int i = 0; i < last; ++i) {
+            if (i + FetchAhead < last)
+                fetch(links.constData() + records.crossing(k, i + FetchAhead));
             link(records.crossing(k, i), records.crossing(k, i + 1), links);
+        }
         if (curves[k].isClosed && last > 0)
             link(records.crossing(k, last), records.crossing(k, 0), links);
     }
@@ -74,6 +78,8 @@ std::vector<IntersectionNode> nodesOfCrossings(const CrossingSearch &search,
     nodes.reserve(std::size_t(crossings.size()));
     IntersectionNode *const first = nodes.data(); // of all, those to come too
     for (int i = 0; i < crossings.size(); ++i) {
+        if (i + FetchAhead < crossings.size())
+            sampled.fetchNormal(search.meetings().at(i + FetchAhead).b);
         nodes.emplace_back(sampleAt(search.meetings().at(i), sampled));
         nodes.back().addCurve(curves[crossings.at(i).curveA]);
         nodes.back().addCurve(curves[crossings.at(i).curveB]);

@@ -106,23 +106,26 @@ void CrossingSearch::searchSegment(int segment)
 
 void CrossingSearch::addPair(const SegmentPair &pair)
 {
-    m_pairs[m_batch.size()] = pair;
-    m_batch.add(m_sampled.segment(pair.a), m_sampled.segment(pair.b));
-    if (m_batch.size() == CrossingBatch::Capacity)
+    m_sampled.fetchSegment(pair.b);
+    m_pairs[m_pairCount++] = pair;
+    if (m_pairCount == CrossingBatch::Capacity)
         testPairs();
 }
 
 void CrossingSearch::testPairs()
 {
+    m_batch.clear();
+    for (int i = 0; i < m_pairCount; ++i)
+        m_batch.add(m_sampled.segment(m_pairs[i].a), m_sampled.segment(m_pairs[i].b));
     m_batch.test();
-    for (int i = 0; i < m_batch.size(); ++i) {
+    for (int i = 0; i < m_pairCount; ++i) {
         const crossinglane::Answer answer = m_batch.answer(i);
         if (answer.isCrossing())
             addCrossing(m_pairs[i], answer);
         else if (NearMisses::isOnEnd(answer.ta, answer.tb))
             addNearMiss(m_pairs[i], answer);
     }
-    m_batch.clear();
+    m_pairCount = 0;
 }
 
 void CrossingSearch::addNearMiss(const SegmentPair &pair, const crossinglane::Answer &answer)

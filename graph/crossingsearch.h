@@ -53,6 +53,7 @@ private:
     QVector<BoxSpan> m_runSpans; // those runs
     QVector<int> m_hits;         // of a segment: the segments that it may cross
 
+    int m_pairCount = 0;
+    SegmentPair m_pairs[CrossingBatch::Capacity]; // those to be tested
     CrossingBatch m_batch;
-    SegmentPair m_pairs[CrossingBatch::Capacity]; // those in the batch
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graph/nodemerge.h"
 
+#include "graph/nodefetch.h"
 #include "graph/nodemarks.h"
 
 #include <orvane/base/timer.h>
@@ -25,7 +26,10 @@ void mergeCloseNodes(QList<IntersectionNode *> &nodes, float mergeDistance)
 {
     NodeMarks absorbed;
     bool any = false;
-    for (IntersectionNode *node : qAsConst(nodes)) {
+    for (int i = 0; i < nodes.size(); ++i) {
+        if (i + FetchAhead < nodes.size())
+            fetchNeighbours(nodes.at(i + FetchAhead));
+        IntersectionNode *node = nodes.at(i);
         if (absorbed.has(node))
             continue;
         for (IntersectionNode *close : closeNeighbours(*node, mergeDistance * mergeDistance)) {

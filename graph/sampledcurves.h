@@ -61,6 +61,15 @@ public:
         return m_normals.at(sample);
     }
 
+    //! Will soon be asked for its normal.
+    void fetchNormal(int sample) const { fetch(m_normals.constData() + sample); }
+    //! Will soon be asked for as a segment, and for its curve.
+    void fetchSegment(int number) const
+    {
+        fetch(segment(number));
+        fetch(m_curveOf.constData() + number);
+    }
+
 private:
     void makeBoxes(SampledCurve &curve);
     void findNormals(int sample);
