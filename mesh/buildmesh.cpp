@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mesh/buildmesh.h"
 
-#include "graph/graphwalk.h"
-#include "graph/nodefetch.h"
+#include "mesh/directededges.h"
 #include "mesh/facetracing.h"
 #include "mesh/meshbuilder.h"
 
@@ -10,45 +9,34 @@
 
 namespace {
 
-// Answers the nodes by vertex number.
-QVector<IntersectionNode *> numberVertices(IntersectionNode *start, MeshBuilder &builder)
-{
-    QVector<IntersectionNode *> nodes;
-    walkGraph(start, [&nodes, &builder](IntersectionNode *node) {
-        node->vertexIndex = nodes.size();
-        nodes.append(node);
-        builder.positions.append(node->position());
-        builder.normals.append(node->normal);
-    });
-    return nodes;
-}
-
 // A start with a single neighbour makes no face, deliberately. Any other loose end is left out: a
 // walk that does not pass it meets the rest in the same order.
-void traceFaces(const QVector<IntersectionNode *> &nodes, MeshBuilder &builder, int maxEdges)
+void traceFaces(DirectedEdges &edges, MeshBuilder &builder, int maxEdges)
 {
-    if (nodes.isEmpty() || nodes.first()->neighbourCount() < 2)
+    const PieceGraph &graph = edges.graph();
+    if (graph.nodes.isEmpty() || graph.edgeCount(0) < 2)
         return;
-    for (int place = 0; place < nodes.size(); ++place) {
-        fetchNode(nodes[qMin(place + 2 * FetchAhead, nodes.size() - 1)]);
-        fetchNeighbours(nodes[qMin(place + FetchAhead, nodes.size() - 1)]);
-        IntersectionNode *node = nodes[place];
-        if (node->neighbourCount() < 2)
+    FaceTracing tracing(edges, builder, maxEdges);
+    for (int vertex = 0; vertex < graph.nodes.size(); ++vertex) {
+        if (graph.edgeCount(vertex) < 2)
             continue;
-        for (int i = 0; i < node->neighbourCount(); ++i)
-            traceFace(node, i, builder, maxEdges);
+        for (int edge = graph.begin(vertex); edge < graph.end(vertex); ++edge)
+            tracing.traceFace(edge);
     }
 }
 
 BuiltPiece tracePiece(IntersectionNode *start, int maxEdges, MeshBuilder &builder)
 {
-    const QVector<IntersectionNode *> nodes = numberVertices(start, builder);
-    traceFaces(nodes, builder, maxEdges);
+    DirectedEdges edges(numberedPiece(start));
+    builder.positions = edges.graph().positions;
+    builder.normals = edges.graph().normals;
+    traceFaces(edges, builder, maxEdges);
+    edges.writeMarks();
 
     BuiltPiece piece;
-    piece.nodes = nodes.size();
+    piece.nodes = edges.graph().nodes.size();
     piece.builderFaces = builder.faces.size();
-    piece.holes = countHoles(nodes, builder, maxEdges);
+    piece.holes = countHoles(edges, builder, maxEdges);
     return piece;
 }
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QVector>
-
-class IntersectionNode;
+class DirectedEdges;
 class MeshBuilder;
 
 //! The cells of a piece that have no face, by what kept the face from being made.
@@ -16,9 +14,6 @@ struct HoleCounts
     int unclosed = 0;  // no walk comes back to its start in a left turn on the whole
 };
 
-//! Follows the left-turning cycles of a traced piece that have an edge of no face, and counts the
-//! inner ones that gave none.
-//! nodes: all nodes of the piece, by vertex number, neighbours in angular order.
-//! Linear in the edges where nodes have a bounded number of neighbours.
-HoleCounts countHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,
-                      int maxEdges);
+//! Looks at the left-turning cycles of a traced piece that have no edge of a face, and counts the
+//! inner ones. Linear in the edges.
+HoleCounts countHoles(const DirectedEdges &edges, const MeshBuilder &builder, int maxEdges);

@@ -23,6 +23,8 @@ const int ExpectedVertices = 100;               // count
 const int MaximumWholeCorners = 9;              // of a convex face
 const double ConcaveAngle = 3.041592653589793;  // radians, pi - 0.1
 const double AgreeingAngle = 2.827433388230814; // radians, 0.9 pi
+const double ClearlyConvex = -0.995;            // a little more than the cosine of the one
+const double ClearlyAgreeing = -0.951;          // and of the other
 
 enum class MeshKind { None, Triangles, Quads, Mixed, Invalid };
 
@@ -51,10 +53,18 @@ int meshFaceCount(const FaceList &faces, MeshKind kind)
     return count;
 }
 
-// Left unclamped: a dot product a hair beyond 1 gives no number, which no comparison accepts.
-double angleBetween(const Vector &a, const Vector &b)
+// The angle is asked for only where its cosine leaves a doubt. Left unclamped: a dot product a hair
+// beyond 1 gives no number, which no comparison accepts.
+bool isConcaveTurn(const Vector &normal, const Vector &reference)
 {
-    return std::acos(double(Dot(a, b)));
+    const auto cosine = double(Dot(normal, reference));
+    return !(cosine > ClearlyConvex) && std::acos(cosine) > ConcaveAngle;
+}
+
+bool isAgreeing(const Vector &normal, const Vector &reference)
+{
+    const auto cosine = double(Dot(normal, reference));
+    return (cosine > ClearlyAgreeing && cosine <= 1.0) || std::acos(cosine) < AgreeingAngle;
 }
 
 // From world space into the polygon's own plane. The frame is a mirrored one: what runs
@@ -103,11 +113,13 @@ void MeshBuilder::addTessellated(const QVector<int> &face)
         tessellator.addPoint(frame.Transform(positions[vertex], 1.0f));
     QList<int> corners;
     tessellator.process(corners);
+    QVector<int> triangle(3);
     for (int i = 0; i + 2 < corners.size(); i += 3) {
-        QVector<int> triangle{face[corners[i]], face[corners[i + 1]], face[corners[i + 2]]};
         Vector surface;
-        for (int vertex : qAsConst(triangle))
-            surface += normals[vertex];
+        for (int corner = 0; corner < 3; ++corner) {
+            triangle[corner] = face[corners[i + corner]];
+            surface += normals[triangle[corner]];
+        }
         surface.Normalize();
         if (!(Dot(polygonNormal(triangle), surface) < 0.0f))
             std::swap(triangle.first(), triangle.last());
@@ -129,7 +141,7 @@ bool MeshBuilder::isConcave(const QVector<int> &face) const
         return false;
     const Vector reference = cornerNormal(face, 0);
     for (int i = 1; i < face.size(); ++i) {
-        if (angleBetween(cornerNormal(face, i), reference) > ConcaveAngle)
+        if (isConcaveTurn(cornerNormal(face, i), reference))
             return true;
     }
     return false;
@@ -144,7 +156,7 @@ Vector MeshBuilder::polygonNormal(const QVector<int> &face) const
     int agreeing = 1;
     for (int i = 1; i < face.size(); ++i) {
         const Vector normal = cornerNormal(face, i);
-        if (angleBetween(normal, reference) < AgreeingAngle) {
+        if (isAgreeing(normal, reference)) {
             sum += normal;
             ++agreeing;
         }

@@ -5,16 +5,29 @@
 
 #include <QString>
 
+#include <charconv>
+#include <cmath>
+
 using orvane::Vector;
 
 namespace {
 
 const double EarMinimumCross = 1e-10; // twice the area of an ear, square scene units
+const int LogDigits = 6;
+const int LongestNumber = 16; // characters, and what parts two numbers
 
 // Twice the signed area of the triangle a, b, p: 0 and above when p is left of a-b or on it.
 float cross(const Vector &a, const Vector &b, const Vector &p)
 {
     return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
+}
+
+char *writeNumber(char *text, float value)
+{
+    // No sign of a zero, and none of what is no number.
+    const double number = std::isnan(value) ? std::fabs(double(value)) : double(value) + 0.0;
+    return std::to_chars(text, text + LongestNumber, number, std::chars_format::general, LogDigits)
+        .ptr;
 }
 
 } // namespace
@@ -24,10 +37,16 @@ PolygonTessellator::~PolygonTessellator() = default;
 void PolygonTessellator::addPoint(const Vector &p)
 {
     m_points.append(p);
-    orvane::Kernel()->Log(QStringLiteral("  Adding point: %1, %2, %3\n")
-                              .arg(double(p.x))
-                              .arg(double(p.y))
-                              .arg(double(p.z)));
+    // A mesh may log a million of them.
+    char line[3 * LongestNumber];
+    char *end = writeNumber(line, p.x);
+    for (float coordinate : {p.y, p.z}) {
+        *end++ = ',';
+        *end++ = ' ';
+        end = writeNumber(end, coordinate);
+    }
+    orvane::Kernel()->Log(
+        QStringLiteral("  Adding point: %1\n").arg(QLatin1String(line, int(end - line))));
 }
 
 float PolygonTessellator::area() const

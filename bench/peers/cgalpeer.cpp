@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/cgalpeer.h"
 
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 
 #include <CGAL/Arr_segment_traits_2.h>
 #include <CGAL/Arrangement_2.h>
@@ -47,7 +47,7 @@ PeerRun runCgal(const Polylines &lines)
 {
     const std::vector<Traits::X_monotone_curve_2> segments = segmentsOf(lines);
     Arrangement arrangement;
-    ThreadClock clock;
+    ProcessorClock clock;
     CGAL::insert(arrangement, segments.begin(), segments.end());
     PeerRun run;
     run.seconds = clock.lap();

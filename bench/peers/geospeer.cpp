@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/geospeer.h"
 
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 
 #include <geos/algorithm/LineIntersector.h>
 #include <geos/geom/CoordinateArraySequence.h>
@@ -101,7 +101,7 @@ PeerRun runGeos(const Polylines &lines, bool withoutRepetitions)
     geos::noding::MCIndexNoder noder(&adder);
     Polygonizer polygonizer;
 
-    ThreadClock clock;
+    ProcessorClock clock;
     noder.computeNodes(&strings.input);
     strings.noded.reset(noder.getNodedSubstrings());
     const std::vector<std::unique_ptr<LineString>> edges =
@@ -125,7 +125,7 @@ PeerRun runGeosPolygonizer(const Links &links)
     }
     Polygonizer polygonizer;
 
-    ThreadClock clock;
+    ProcessorClock clock;
     for (const std::unique_ptr<LineString> &edge : edges)
         polygonizer.add(static_cast<const geos::geom::Geometry *>(edge.get()));
     const auto polygons = polygonizer.getPolygons();

@@ -11,7 +11,7 @@
 //! What one run of a peer took and found. Making its input and freeing its result is not timed.
 struct PeerRun
 {
-    double seconds = 0.0;  // of processor time of the thread
+    double seconds = 0.0;  // of processor time
     qint64 crossings = -1; // -1: it does not tell
     qint64 faces = -1;     // bounded ones; -1: it does not tell
 };

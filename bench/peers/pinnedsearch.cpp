@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/pinnedsearch.h"
 
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 
 #include <algorithm>
 #include <cmath>
@@ -189,7 +189,7 @@ private:
 
 PeerRun runPinnedSearch(const Polylines &lines, float distance, bool useSelfIntersections)
 {
-    ThreadClock clock;
+    ProcessorClock clock;
     Search search(lines, distance);
     if (useSelfIntersections)
         search.findSelf();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/peers/treepeer.h"
 
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 #include "graph/segmentcrossing.h"
 
 #include <boost/geometry.hpp>
@@ -63,7 +63,7 @@ PeerRun runTree(const Polylines &lines, float distance, bool useSelfIntersection
             segments.push_back({&lines[k][i], int(k), int(i)});
     }
 
-    ThreadClock clock;
+    ProcessorClock clock;
     std::vector<Entry> entries;
     entries.reserve(segments.size());
     for (size_t i = 0; i < segments.size(); ++i)

@@ -8,16 +8,15 @@
 // The linker leads calls of countHoles here (--wrap in the build file) and the second name to the
 // real one. Both names are the compiler's for that function: a change of its parameters is an
 // error when linking, and both are to be changed then.
-HoleCounts wrappedCountHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,
+HoleCounts wrappedCountHoles(const DirectedEdges &edges, const MeshBuilder &builder,
                              int maxEdges) asm("__wrap_" BENCH_COUNT_HOLES);
-HoleCounts realCountHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,
+HoleCounts realCountHoles(const DirectedEdges &edges, const MeshBuilder &builder,
                           int maxEdges) asm("__real_" BENCH_COUNT_HOLES);
 
-HoleCounts wrappedCountHoles(const QVector<IntersectionNode *> &nodes, const MeshBuilder &builder,
-                             int maxEdges)
+HoleCounts wrappedCountHoles(const DirectedEdges &edges, const MeshBuilder &builder, int maxEdges)
 {
     BuildClock::instance().startHoles();
-    const HoleCounts holes = realCountHoles(nodes, builder, maxEdges);
+    const HoleCounts holes = realCountHoles(edges, builder, maxEdges);
     BuildClock::instance().endHoles();
     return holes;
 }
@@ -25,7 +24,7 @@ HoleCounts wrappedCountHoles(const QVector<IntersectionNode *> &nodes, const Mes
 // Instead of the one that asks the user: every mesh is kept.
 bool validateNewMesh(orvane::Mesh *mesh)
 {
-    ThreadClock clock;
+    ProcessorClock clock;
     const orvane::MeshChecker checker;
     const int faults = checker.Validate(mesh);
     BuildClock::instance().noteCheck(clock.lap(), faults);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 
 //! Splits the time that building the meshes takes. Building is one call; its clock marks come from
 //! functions on its way that the linker puts a stopwatch around.
@@ -24,7 +24,7 @@ public:
     int faults() const { return m_faults; } // meshes with any
 
 private:
-    ThreadClock m_clock;
+    ProcessorClock m_clock;
     double m_trace = 0.0;
     double m_holes = 0.0;
     double m_build = 0.0;

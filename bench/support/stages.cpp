@@ -2,7 +2,7 @@
 #include "bench/support/stages.h"
 
 #include "bench/support/buildclock.h"
-#include "bench/support/threadclock.h"
+#include "bench/support/processorclock.h"
 #include "graph/curvecollection.h"
 #include "graph/intersectionnode.h"
 #include "graph/intersectionsearch.h"
@@ -124,7 +124,7 @@ private:
 
     BenchSettings m_settings;
     std::function<void(Stage)> m_afterStage;
-    ThreadClock m_clock;
+    ProcessorClock m_clock;
     StageRun m_run;
     QList<orvane::OrvaneCurve *> m_curves;
     float m_length = 1.0f; // average edge length, scene units

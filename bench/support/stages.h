@@ -66,7 +66,7 @@ struct StageRun
     std::vector<std::unique_ptr<orvane::Mesh>> meshes; // one per piece; null where there is none
 };
 
-//! Times are processor time of the thread. Runs on the curves of the kernel's scene. Meshes with
+//! Times are processor time of all threads. Runs on the curves of the kernel's scene. Meshes with
 //! faults are kept without asking. afterStage, if given, is called after each stage up to Pieces,
 //! after ordering all pieces, and after building them all (as Check).
 StageRun runStages(const BenchSettings &settings,

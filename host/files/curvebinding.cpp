@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "host/files/curvebinding.h"
 
+#include <orvane/base/parallel.h>
 #include <orvane/geometry/mesh.h>
 #include <orvane/geometry/orvanecurve.h>
 #include <orvane/geometry/surfacelocator.h>
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 namespace orvane {
 
 namespace {
+
+const int LeastOfThread = 2000; // points
+const int PartsOfThread = 4;    // points close to the mesh are found faster
 
 class CurveBinder
 {
@@ -63,14 +69,41 @@ private:
     CurveBinding m_result;
 };
 
+int pointCountOf(const QVector<OrvaneCurve *> &curves, int first)
+{
+    return std::accumulate(
+        curves.cbegin() + first, curves.cend(), 0,
+        [](int sum, const OrvaneCurve *curve) { return sum + curve->PointCount(); });
+}
+
 } // namespace
 
 CurveBinding bindCurves(const QVector<OrvaneCurve *> &curves, const Mesh &mesh, float maxDistance)
 {
-    CurveBinder binder(mesh.Locator(), maxDistance);
-    for (OrvaneCurve *curve : curves)
-        binder.bind(curve);
-    return binder.result();
+    const SurfaceLocator &locator = mesh.Locator();
+    CurveBinder first(locator, maxDistance);
+    int done = 0;
+    // With the first point on it a mesh is given its number, which no two threads may do.
+    while (done < curves.size() && first.result().bound == 0)
+        first.bind(curves[done++]);
+    const int threads = threadsFor(pointCountOf(curves, done), LeastOfThread);
+    const int parts = threads > 1 ? threads * PartsOfThread : 1;
+    const qint64 count = curves.size() - done;
+    std::vector<CurveBinding> results;
+    results.resize(size_t(parts));
+    inParallel(parts, [&](int part) {
+        CurveBinder binder(locator, maxDistance);
+        for (qint64 i = count * part / parts; i < count * (part + 1) / parts; ++i)
+            binder.bind(curves[done + int(i)]);
+        results[size_t(part)] = binder.result();
+    });
+    CurveBinding whole = first.result();
+    for (const CurveBinding &result : results) {
+        whole.points += result.points;
+        whole.bound += result.bound;
+        whole.greatestDistance = std::max(whole.greatestDistance, result.greatestDistance);
+    }
+    return whole;
 }
 
 } // namespace orvane

@@ -60,9 +60,8 @@ private:
         m_polylines.append({m_lines.line(), m_name, {}});
         for (size_t i = 1; i < words.size(); ++i) {
             QString what;
-            const int vertex =
-                readObjReference(words[i].substr(0, words[i].find('/')), m_positions.size(),
-                                 QStringLiteral("vertex"), &what);
+            const int vertex = readObjReference(words[i].substr(0, words[i].find('/')),
+                                                m_positions.size(), QLatin1String("vertex"), &what);
             if (vertex < 0)
                 return fail(m_lines.line(),
                             QStringLiteral("curve %1 %2").arg(m_polylines.size()).arg(what));

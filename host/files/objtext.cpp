@@ -27,12 +27,12 @@ bool readObjPlace(const Words &words, Vector *place, QString *error)
     return true;
 }
 
-int readObjReference(std::string_view word, int countSoFar, const QString &what, QString *error)
+int readObjReference(std::string_view word, int countSoFar, QLatin1String what, QString *error)
 {
     const std::optional<int> number = integerIn(word);
     if (!number) {
-        *error =
-            QStringLiteral("has \"%1\" in the place of the number of a %2").arg(textOf(word), what);
+        *error = QStringLiteral("has \"%1\" in the place of the number of a %2")
+                     .arg(textOf(word), QString(what));
         return -1;
     }
     if (*number > 0)

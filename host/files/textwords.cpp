@@ -22,6 +22,29 @@ bool isSpace(char c)
     return c == ' ' || c == '\t' || c == '\v' || c == '\f';
 }
 
+bool isBreak(char c)
+{
+    return c == '\n' || c == '\r';
+}
+
+bool isInWord(char c)
+{
+    return uchar(c) > ' ' || !(isSpace(c) || isBreak(c));
+}
+
+// Of a text that begins with one, or is empty.
+std::string_view withoutBreak(std::string_view text)
+{
+    return text.substr(text.substr(0, 2) == "\r\n" ? 2 : std::min<size_t>(1, text.size()));
+}
+
+std::string_view withoutSpaceBehind(std::string_view text)
+{
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
 // from_chars does not take the plus sign that some programs write.
 std::string_view withoutPlus(std::string_view word)
 {
@@ -126,46 +149,72 @@ bool TextLines::next()
     m_words.clear();
     while (m_words.empty() && !m_rest.empty()) {
         m_firstLine = m_line + 1;
-        bool goesOn = true;
-        while (goesOn) {
-            std::string_view text = takeLine();
-            goesOn = m_joined && !text.empty() && text.back() == '\\';
-            if (goesOn)
-                text.remove_suffix(1);
-            splitWords(text);
-        }
+        while (takeLine())
+            continue;
     }
     return !m_words.empty();
 }
 
-std::string_view TextLines::takeLine()
+std::vector<TextLines> TextLines::inParts(int count) const
 {
-    ++m_line;
-    size_t end = 0;
-    while (end < m_rest.size() && m_rest[end] != '\n' && m_rest[end] != '\r')
-        ++end;
-    std::string_view text = m_rest.substr(0, end);
-    m_rest.remove_prefix(end);
-    m_rest.remove_prefix(m_rest.substr(0, 2) == "\r\n" ? 2 : std::min<size_t>(1, m_rest.size()));
-    while (!text.empty() && isSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
+    std::vector<TextLines> parts;
+    size_t begin = 0;
+    for (int i = 1; i <= count && begin < m_rest.size(); ++i) {
+        const size_t about = m_rest.size() / size_t(count) * size_t(i);
+        const size_t end = i < count ? endOfLine(std::max(begin, about)) : m_rest.size();
+        parts.push_back(TextLines(m_rest.substr(begin, end - begin), m_joined));
+        begin = end;
+    }
+    return parts;
 }
 
-void TextLines::splitWords(std::string_view text)
+bool TextLines::carriesOn(std::string_view line) const
 {
-    size_t i = 0;
-    while (i < text.size()) {
-        while (i < text.size() && isSpace(text[i]))
-            ++i;
-        const size_t start = i;
-        while (i < text.size() && !isSpace(text[i]))
-            ++i;
-        if (i > start && text[start] == '#')
-            return;
-        if (i > start)
-            m_words.push_back(text.substr(start, i - start));
+    return m_joined && !line.empty() && line.back() == '\\';
+}
+
+// Behind the first line break from there on that parts two lines.
+size_t TextLines::endOfLine(size_t from) const
+{
+    if (from > 0 && m_rest.substr(from - 1, 2) == "\r\n")
+        --from; // the line ends before both
+    for (;;) {
+        const size_t end = std::min(m_rest.find_first_of("\r\n", from), m_rest.size());
+        from = m_rest.size() - withoutBreak(m_rest.substr(end)).size();
+        if (end == m_rest.size() || !carriesOn(withoutSpaceBehind(m_rest.substr(0, end))))
+            return from;
     }
+}
+
+// Does the next line belong to it?
+bool TextLines::takeLine()
+{
+    ++m_line;
+    const char *at = m_rest.data();
+    const char *end = at + m_rest.size();
+    std::string_view word;
+    bool isComment = false;
+    while (at != end && !isBreak(*at)) {
+        const char *begin = at;
+        while (at != end && isInWord(*at))
+            ++at;
+        if (at == begin) {
+            ++at;
+            continue;
+        }
+        word = {begin, size_t(at - begin)};
+        isComment = isComment || word.front() == '#';
+        if (!isComment)
+            m_words.push_back(word);
+    }
+    m_rest = withoutBreak({at, size_t(end - at)});
+    const bool goesOn = carriesOn(word);
+    if (!goesOn || isComment)
+        return goesOn;
+    m_words.back().remove_suffix(1);
+    if (m_words.back().empty())
+        m_words.pop_back();
+    return true;
 }
 
 } // namespace orvane

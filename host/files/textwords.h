@@ -35,12 +35,18 @@ public:
     //! Of the current line, counted from 1; the first one of joined lines.
     int line() const { return m_firstLine; }
     const std::vector<std::string_view> &words() const { return m_words; }
+    //! What follows the current line, as so many parts or fewer of whole lines, about equally long.
+    //! Each counts its lines from 1.
+    std::vector<TextLines> inParts(int count) const;
     //! What follows the current line.
     std::string_view rest() const { return m_rest; }
 
 private:
-    std::string_view takeLine();
-    void splitWords(std::string_view text);
+    TextLines(std::string_view text, bool joined) : m_rest(text), m_joined(joined) {}
+
+    bool carriesOn(std::string_view line) const;
+    size_t endOfLine(size_t from) const;
+    bool takeLine();
 
     std::string_view m_rest;
     bool m_joined;

@@ -24,7 +24,8 @@ struct Offset
     double y = 0.0;
     double z = 0.0;
 
-    double length() const { return std::sqrt(x * x + y * y + z * z); }
+    double squaredLength() const { return x * x + y * y + z * z; }
+    double length() const { return std::sqrt(squaredLength()); }
 };
 
 Offset offsetBetween(const Mesh &mesh, int from, int to)
@@ -42,20 +43,21 @@ bool isDegenerate(const MeshShape &shape, int polygon)
     const int count = shape.boundaries.CornerCount(polygon);
     Offset doubledArea;
     Offset previous;
-    double reach = 0.0;
+    double squaredReach = 0.0;
     for (int i = 1; i < count; ++i) {
         const Offset next = offsetBetween(shape.mesh, corner[0], corner[i]);
         doubledArea.x += previous.y * next.z - previous.z * next.y;
         doubledArea.y += previous.z * next.x - previous.x * next.z;
         doubledArea.z += previous.x * next.y - previous.y * next.x;
-        reach = std::max(reach, next.length());
+        squaredReach = std::max(squaredReach, next.squaredLength());
         previous = next;
     }
+    const double reach = std::sqrt(squaredReach);
     return std::isfinite(reach) && doubledArea.length() * 0.5 <= reach * shape.zeroLength;
 }
 
-// Finds polygons with the same set of vertices. Such polygons share their lowest vertex and their
-// highest, so only those that do are compared.
+// Finds polygons with the same set of vertices. Such polygons share their lowest vertex, the lowest
+// of the others and the highest, so only those that do are compared.
 class LaminaSearch
 {
 public:
@@ -72,10 +74,21 @@ public:
 private:
     struct Candidate
     {
+        int second;
         int highest;
         int polygon;
     };
 
+    template <typename Visit>
+    void forEachPolygon(Visit visit) const
+    {
+        for (int p = 0; p < m_boundaries.Count(); ++p) {
+            const int *begin = m_boundaries.Corners(p);
+            const int *end = begin + m_boundaries.CornerCount(p);
+            if (begin != end)
+                visit(begin, end, p);
+        }
+    }
     void gather(int vertexCount);
     void search(Candidate *begin, Candidate *end);
     void compare(const Candidate *begin, const Candidate *end);
@@ -89,34 +102,33 @@ private:
 
 void LaminaSearch::gather(int vertexCount)
 {
-    const auto forEachPolygon = [this](auto visit) {
-        for (int p = 0; p < m_boundaries.Count(); ++p) {
-            const int *begin = m_boundaries.Corners(p);
-            const int *end = begin + m_boundaries.CornerCount(p);
-            if (begin != end)
-                visit(*std::min_element(begin, end), *std::max_element(begin, end), p);
-        }
-    };
     m_start.fill(0, vertexCount + 1);
     int *count = m_start.data() + 1;
-    forEachPolygon([count](int lowest, int, int) { ++count[lowest]; });
+    forEachPolygon(
+        [count](const int *begin, const int *end, int) { ++count[*std::min_element(begin, end)]; });
     std::partial_sum(m_start.begin(), m_start.end(), m_start.begin());
     m_gathered.resize(m_start.last());
     QVector<int> next = m_start;
     int *place = next.data();
     Candidate *gathered = m_gathered.data();
-    forEachPolygon([place, gathered](int lowest, int highest, int polygon) {
-        gathered[place[lowest]++] = {highest, polygon};
+    forEachPolygon([place, gathered](const int *begin, const int *end, int polygon) {
+        const int lowest = *std::min_element(begin, end);
+        const int highest = *std::max_element(begin, end);
+        int second = highest;
+        for (const int *corner = begin; corner != end; ++corner)
+            second = *corner == lowest ? second : std::min(second, *corner);
+        gathered[place[lowest]++] = {second, highest, polygon};
     });
 }
 
 void LaminaSearch::search(Candidate *begin, Candidate *end)
 {
-    std::sort(begin, end,
-              [](const Candidate &a, const Candidate &b) { return a.highest < b.highest; });
+    std::sort(begin, end, [](const Candidate &a, const Candidate &b) {
+        return a.highest != b.highest ? a.highest < b.highest : a.second < b.second;
+    });
     while (begin != end) {
         const Candidate *first = begin;
-        while (begin != end && begin->highest == first->highest)
+        while (begin != end && begin->highest == first->highest && begin->second == first->second)
             ++begin;
         if (begin - first > 1)
             compare(first, begin);

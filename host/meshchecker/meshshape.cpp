@@ -79,10 +79,14 @@ PolygonList boundariesOf(const PolygonList &polygons, int vertexCount)
 // Of the vertices that faces use: a stray one far away must not make every edge look short.
 double diagonalOf(const PolygonList &boundaries, const Mesh &mesh)
 {
+    QVector<char> used(mesh.VertexCount(), 0);
+    char *isUsed = used.data();
+    for (int vertex : boundaries.corners)
+        isUsed[vertex] = 1;
     AxisAlignedBoundingBox box;
-    for (int vertex : boundaries.corners) {
-        const Vector position = mesh.VertexPosition(vertex);
-        if (position.IsFinite())
+    for (int v = 0; v < used.size(); ++v) {
+        const Vector position = mesh.VertexPosition(v);
+        if (isUsed[v] && position.IsFinite())
             box.Extend(position);
     }
     if (box.IsEmpty())

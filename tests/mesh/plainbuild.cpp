@@ -2,7 +2,9 @@
 #include "tests/mesh/plainbuild.h"
 
 #include "graph/intersectionnode.h"
+#include "mesh/directededges.h"
 #include "mesh/facetracing.h"
+#include "tests/mesh/plainpiece.h"
 
 #include <QPair>
 #include <QSet>
@@ -102,17 +104,17 @@ void plainOrder(IntersectionNode *start)
 
 MeshBuilder plainBuild(IntersectionNode *start, int maxEdges)
 {
+    QVector<IntersectionNode *> nodes;
+    plainWalk(start, 0, [&](IntersectionNode *node) { nodes.append(node); });
+    DirectedEdges edges(plainPiece(nodes));
     MeshBuilder builder;
-    plainWalk(start, 0, [&](IntersectionNode *node) {
-        node->vertexIndex = builder.positions.size();
-        builder.positions.append(node->position());
-        builder.normals.append(node->normal);
+    builder.positions = edges.graph().positions;
+    builder.normals = edges.graph().normals;
+    FaceTracing tracing(edges, builder, maxEdges);
+    plainWalk(start, 2, [&](const IntersectionNode *node) {
+        for (int i = 0; i < node->neighbourCount(); ++i)
+            tracing.traceFace(edges.graph().begin(node->vertexIndex) + i);
     });
-    plainWalk(start, 2, [&](IntersectionNode *node) {
-        for (int i = 0; i < node->neighbourCount(); ++i) {
-            if (!node->outgoingUsed[i])
-                traceFace(node, i, builder, maxEdges);
-        }
-    });
+    edges.writeMarks();
     return builder;
 }

@@ -35,7 +35,7 @@ QVector<int> RecursiveTracing::trace(int node, int edge)
 
 bool RecursiveTracing::walk(int v, int u, int s, int depth, QVector<int> &face)
 {
-    const int count = neighbours[v].size();
+    const int count = v < 0 ? 0 : neighbours[v].size();
     if (count < 2)
         return false;
     const int k = neighbours[v].indexOf(u);

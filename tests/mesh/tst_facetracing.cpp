@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "graph/intersectionnode.h"
+#include "mesh/directededges.h"
 #include "mesh/facetracing.h"
 #include "mesh/meshbuilder.h"
 #include "mesh/neighbourordering.h"
+#include "tests/mesh/plainpiece.h"
 #include "tests/support/graphs.h"
 #include "tests/support/timelimit.h"
 
@@ -31,7 +33,8 @@ MeshBuilder builderOf(const TestGraph &graph)
     return builder;
 }
 
-// A graph with its neighbours in order and its nodes numbered.
+// A graph with its neighbours in order and its nodes numbered. Each call traces on from the flags
+// as the nodes have them.
 struct Traced
 {
     explicit Traced(TestGraph &&made) : graph(std::move(made)), builder(builderOf(graph))
@@ -43,14 +46,17 @@ struct Traced
     int edge(int from, int to) const { return graph[from]->indexOfNeighbour(graph[to]); }
     void trace(int from, int to, int maxEdges)
     {
-        traceFace(graph[from], edge(from, to), builder, maxEdges);
+        DirectedEdges edges(plainPiece(graph.nodes().toVector()));
+        FaceTracing(edges, builder, maxEdges).traceFace(edges.graph().begin(from) + edge(from, to));
+        edges.writeMarks();
     }
     void traceAll(int maxEdges)
     {
-        for (int i = 0; i < graph.count(); ++i) {
-            for (int k = 0; k < graph[i]->neighbourCount(); ++k)
-                traceFace(graph[i], k, builder, maxEdges);
-        }
+        DirectedEdges edges(plainPiece(graph.nodes().toVector()));
+        FaceTracing tracing(edges, builder, maxEdges);
+        for (int k = 0; k < int(edges.graph().targets.size()); ++k)
+            tracing.traceFace(k);
+        edges.writeMarks();
     }
     void setOutgoing(int from, int to) { graph[from]->outgoingUsed[edge(from, to)] = true; }
 
@@ -196,18 +202,23 @@ TEST(FaceTracing, aWalkTakesTheNextFreeEdgeDownWhenTheFirstIsTaken)
 
 TEST(FaceTracing, nullUnknownOrLooseArrivalsFailWithoutAMark)
 {
-    Traced square(squareGraph());
-    TestGraph stranger = squareGraph();
-    TestGraph star = starGraph(1);
-    QVector<int> face{0};
-    IntersectionNode *start = square.graph[0];
-    EXPECT_FALSE(walkFace(nullptr, start, start, 1, 9, face, square.builder));
-    EXPECT_FALSE(walkFace(stranger[1], start, start, 1, 9, face, square.builder));
-    EXPECT_FALSE(walkFace(star[1], star[0], star[0], 1, 9, face, square.builder));
-    EXPECT_EQ(face, QVector<int>{0});
-    for (const TestGraph *graph : {&square.graph, &stranger, &star}) {
-        EXPECT_TRUE(markedIncoming(*graph).isEmpty());
-        EXPECT_TRUE(markedOutgoing(*graph).isEmpty());
+    Traced null(squareGraph());
+    Traced unknown(squareGraph());
+    TestGraph withLooseEnd = squareGraph();
+    withLooseEnd.addLooseEnd(0, {-1, -1, 0});
+    Traced loose(std::move(withLooseEnd));
+    const int edge = null.edge(0, 1);
+    null.graph[0]->neighbours[edge] = nullptr;
+    unknown.graph[0]->neighbours[edge] = unknown.graph[2];
+    for (const auto &[traced, first] :
+         {std::make_pair(&null, edge), {&unknown, edge}, {&loose, loose.edge(0, 4)}}) {
+        DirectedEdges edges(plainPiece(traced->graph.nodes().toVector()));
+        EXPECT_TRUE(FaceTracing(edges, traced->builder, 9).walkFace(first).isEmpty());
+        edges.writeMarks();
+        for (int i = 0; i < traced->graph.count(); ++i) {
+            EXPECT_FALSE(traced->graph[i]->incomingUsed.contains(true));
+            EXPECT_FALSE(traced->graph[i]->outgoingUsed.contains(true));
+        }
     }
 }
 

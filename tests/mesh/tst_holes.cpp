@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "graph/intersectionnode.h"
+#include "mesh/directededges.h"
 #include "mesh/facetracing.h"
 #include "mesh/holes.h"
 #include "mesh/meshbuilder.h"
+#include "tests/mesh/plainpiece.h"
 #include "tests/support/graphs.h"
 #include "tests/support/shapes.h"
 
@@ -28,27 +30,25 @@ struct Traced
 // Sorts, numbers in the order given, traces and counts. Every face is taken as it comes.
 Traced traceInOrder(const QVector<IntersectionNode *> &nodes, int maxEdges)
 {
-    Traced traced;
-    MeshBuilder builder;
-    for (IntersectionNode *node : nodes) {
+    for (IntersectionNode *node : nodes)
         node->sortNeighboursByAngle();
-        node->vertexIndex = builder.positions.size();
-        builder.positions.append(node->position());
-        builder.normals.append(node->normal);
-    }
-    for (IntersectionNode *node : nodes) {
-        for (int k = 0; k < node->neighbourCount() && node->neighbourCount() > 1; ++k) {
-            if (node->outgoingUsed[k])
-                continue;
-            QVector<int> face{node->vertexIndex};
-            node->outgoingUsed[k] = true;
-            if (walkFace(node->neighbours[k], node, node, 1, maxEdges, face, builder))
+    DirectedEdges edges(plainPiece(nodes));
+    const PieceGraph &graph = edges.graph();
+    MeshBuilder builder;
+    builder.positions = graph.positions;
+    builder.normals = graph.normals;
+    FaceTracing tracing(edges, builder, maxEdges);
+    Traced traced;
+    for (int vertex = 0; vertex < nodes.size(); ++vertex) {
+        for (int k = graph.begin(vertex); k < graph.end(vertex) && graph.edgeCount(vertex) > 1;
+             ++k) {
+            const QVector<int> &face = tracing.walkFace(k);
+            if (!face.isEmpty())
                 traced.faces.append(face);
-            else
-                node->outgoingUsed[k] = false;
         }
     }
-    traced.holes = countHoles(nodes, builder, maxEdges);
+    edges.writeMarks();
+    traced.holes = countHoles(edges, builder, maxEdges);
     return traced;
 }
 

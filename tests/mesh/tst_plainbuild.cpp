@@ -13,6 +13,7 @@
 
 #include <QScopedPointer>
 
+#include <cmath>
 #include <iostream>
 
 using orvane::Vector;
@@ -30,6 +31,27 @@ TestGraph crowdedGraph(std::mt19937 random)
     }
     for (unsigned link = random() % 90u; link > 0; --link)
         graph.link(int(random() % unsigned(count)), int(random() % unsigned(count)));
+    return graph;
+}
+
+// Neighbours in nearly the same direction, so near that rounding decides how they are ordered.
+TestGraph bristlyGraph(std::mt19937 random)
+{
+    TestGraph graph;
+    const unsigned tilt = random() % 2u;
+    graph.add(Vector(), Vector(0, 0, 1) + randomVector(random, 0.3f) * float(tilt));
+    const int count = 3 + int(random() % 12u);
+    const double spread = std::pow(10.0, -double(random() % 9u));
+    const double towards = std::acos(0.0) * (random() % 5u);
+    for (int i = 0; i < count; ++i) {
+        const double angle = towards + spread * double(randomVector(random, 1.0f).x);
+        const double length = 1.0 + double(random() % 3u);
+        graph.add(Vector(float(length * std::cos(angle)), float(length * std::sin(angle)), 0.0f)
+                  + randomVector(random, 0.1f) * float(tilt));
+        graph.link(0, i + 1);
+        if (random() % 2u == 0u)
+            graph.link(i + 1, 1 + int(random() % unsigned(count)) % (i + 1));
+    }
     return graph;
 }
 
@@ -114,6 +136,11 @@ protected:
 TEST_F(PlainBuild, crowdedGraphsAreOrderedNumberedAndTracedAsDefined)
 {
     compareMany(crowdedGraph, 300);
+}
+
+TEST_F(PlainBuild, neighboursInNearlyOneDirectionAreOrderedAsDefined)
+{
+    compareMany(bristlyGraph, 2000);
 }
 
 TEST_F(PlainBuild, raggedGridsAreOrderedNumberedAndTracedAsDefined)

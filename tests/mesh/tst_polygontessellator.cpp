@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mesh/polygontessellator.h"
 #include "tests/support/logcatcher.h"
+#include "tests/support/shapes.h"
 #include "tests/support/timelimit.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <iostream>
 #include <limits>
 
@@ -141,6 +143,23 @@ TEST(PolygonTessellator, eachPointIsLoggedWithSixDigits)
               QStringList({QStringLiteral("  Adding point: 0, 1, -2\n"),
                            QStringLiteral("  Adding point: 0.1, 1e-07, 1.23457e+06\n"),
                            QStringLiteral("  Adding point: 0.333333, 1e+20, -0.5\n")}));
+}
+
+TEST(PolygonTessellator, numbersAreLoggedAsPrintfWritesThem)
+{
+    std::mt19937 random(testSeed());
+    for (int i = 0; i < 2000; ++i) {
+        const float size = std::pow(10.0f, randomBetween(random, -9.0f, 9.0f));
+        char line[100];
+        std::snprintf(line, sizeof line, "  Adding point: %g, %g, nan\n", double(size),
+                      -double(size));
+        const LogCatcher log;
+        tessellatorOf({{size, -size, std::sqrt(-size)}});
+        ASSERT_EQ(log.texts().value(0).toStdString(), line);
+    }
+    const LogCatcher log;
+    tessellatorOf({{-0.0f, std::numeric_limits<float>::infinity(), -1.23456e-38f}});
+    EXPECT_EQ(log.texts().value(0).toStdString(), "  Adding point: 0, inf, -1.23456e-38\n");
 }
 
 TEST(PolygonTessellator, theAreaIsSignedAndIgnoresHeight)

@@ -110,6 +110,48 @@ double distanceToMesh(const Vector &point, const Mesh &mesh)
 
 } // namespace
 
+TEST_F(CurveBindingTest, manyCurvesAreBoundAsEachAlone)
+{
+    std::mt19937 random(testSeed());
+    const Mesh &sheet = *addToScene(bumpySheet(40, 40, random))->CurrentLevel();
+    QVector<OrvaneCurve *> together;
+    QVector<OrvaneCurve *> alone;
+    for (int i = 0; i < 300; ++i) {
+        PlaceList places;
+        for (int n = int(random() % 60); n >= 0; --n)
+            places.append({randomBetween(random, -5, 45), randomBetween(random, -5, 45),
+                           randomBetween(random, -5, 5)});
+        const bool closed = random() % 3 == 0;
+        together.append(curve(places, closed));
+        alone.append(curve(places, closed));
+    }
+    const CurveBinding binding = bindCurves(together, sheet, 3.0f);
+    CurveBinding sum;
+    for (OrvaneCurve *one : qAsConst(alone)) {
+        const CurveBinding part = bindCurves({one}, sheet, 3.0f);
+        sum.points += part.points;
+        sum.bound += part.bound;
+        sum.greatestDistance = std::max(sum.greatestDistance, part.greatestDistance);
+    }
+    EXPECT_EQ(binding.points, sum.points);
+    EXPECT_EQ(binding.bound, sum.bound);
+    EXPECT_GT(binding.bound, 1000);
+    EXPECT_GT(binding.points - binding.bound, 1000);
+    EXPECT_EQ(binding.greatestDistance, sum.greatestDistance);
+    for (int i = 0; i < together.size(); ++i) {
+        ASSERT_EQ(together[i]->PointCount(), alone[i]->PointCount());
+        for (int p = 0; p < alone[i]->PointCount(); ++p) {
+            const CurvePoint &point = together[i]->Points()[p];
+            const CurvePoint &wanted = alone[i]->Points()[p];
+            EXPECT_EQ(point.position, wanted.position);
+            EXPECT_EQ(point.surfacePoint.FaceIndex(), wanted.surfacePoint.FaceIndex());
+            EXPECT_EQ(point.surfacePoint.U(), wanted.surfacePoint.U());
+            EXPECT_EQ(point.surfacePoint.V(), wanted.surfacePoint.V());
+            EXPECT_EQ(point.surfacePoint.Mesh(), wanted.surfacePoint.Mesh());
+        }
+    }
+}
+
 TEST_F(CurveBindingTest, pointMovesOntoTheMeshAndKnowsItsFace)
 {
     const Mesh &mesh = *addToScene(gridOfQuads(3, 2))->CurrentLevel();

@@ -188,3 +188,36 @@ TEST(TextWords, linesEndInAnyOfTheUsualWays)
         EXPECT_EQ(line, wanted.size());
     }
 }
+
+TEST(TextWords, partsHaveTheLinesOfTheWholeText)
+{
+    std::mt19937 random(testSeed());
+    for (int i = 0; i < 20000; ++i) {
+        QByteArray bytes;
+        for (size_t length = random() % 60; length > 0; --length)
+            bytes += "ab# \t\\\\\n\r\r\n"[random() % 11];
+        const bool joined = random() % 2 == 0;
+        TextLines whole(bytes, joined);
+        int last = 0;
+        std::vector<std::pair<int, LineOfWords>> wanted;
+        while (whole.next())
+            wanted.push_back({whole.line(), {whole.words().begin(), whole.words().end()}});
+        std::vector<LineOfWords> found;
+        size_t bytesOfParts = 0;
+        const int count = 1 + int(random() % 9);
+        const std::vector<TextLines> parts = TextLines(bytes, joined).inParts(count);
+        EXPECT_LE(int(parts.size()), count);
+        for (TextLines part : parts) {
+            bytesOfParts += part.rest().size();
+            while (part.next())
+                found.push_back({part.words().begin(), part.words().end()});
+        }
+        EXPECT_EQ(bytesOfParts, size_t(bytes.size()));
+        ASSERT_EQ(found.size(), wanted.size()) << bytes.constData();
+        for (size_t line = 0; line < found.size(); ++line) {
+            EXPECT_EQ(found[line], wanted[line].second) << bytes.constData();
+            EXPECT_GT(wanted[line].first, last);
+            last = wanted[line].first;
+        }
+    }
+}

@@ -13,6 +13,7 @@
 
 #include <climits>
 #include <cmath>
+#include <random>
 
 using orvane::Dot;
 using orvane::Mesh;
@@ -191,6 +192,45 @@ TEST(Mesh, bringsItsPolygonsUpToDateOnlyWithItsTopology)
     mesh->Update(true, 0);
     EXPECT_EQ(mesh->Polygons().Count(), 1);
     EXPECT_EQ(mesh->Edges().size(), 4);
+}
+
+TEST(Mesh, sumsTheNormalsOfAVertexInTheOrderOfItsFacesOnAnyNumberOfThreads)
+{
+    std::mt19937 random(testSeed());
+    for (Topology::FaceType type : {Topology::Triangles, Topology::Quads}) {
+        const MeshPointer mesh(type == Topology::Quads ? gridOfQuads(300, 300)
+                                                       : gridOfTriangles(250, 250));
+        for (int v = 0; v < mesh->VertexCount(); ++v)
+            mesh->SetVertexPosition(v, mesh->VertexPosition(v)
+                                           + Vector(0, 0, randomBetween(random, 0, 3)));
+        mesh->RecomputeNormals(false);
+        const int corners = mesh->CornersPerFace();
+        QVector<Vector> sums(mesh->VertexCount());
+        for (int face = 0; face < mesh->FaceCount(); ++face) {
+            for (int i = 0; i < corners; ++i) {
+                const auto at = [&](int corner) {
+                    return mesh->VertexPosition(mesh->VertexIndex(face, corner % corners));
+                };
+                const Vector a = at(i + 1) - at(i);
+                const Vector b = at(i + corners - 1) - at(i);
+                const float angle = std::atan2((a & b).Length(), Dot(a, b));
+                sums[mesh->VertexIndex(face, i)] += mesh->FaceNormal(face) * angle;
+            }
+        }
+        for (int v = 0; v < sums.size(); ++v)
+            ASSERT_EQ(mesh->VertexNormal(v), sums[v].Normalize()) << v;
+    }
+}
+
+TEST(Mesh, hasTheEdgesOfItsLastUpdateWheneverTheyAreAskedFor)
+{
+    const MeshPointer mesh(gridOfTriangles(2, 2));
+    mesh->Update(true, 0);
+    mesh->SetVertexCount(4);
+    mesh->SetFaceCount(1);
+    EXPECT_EQ(mesh->Edges().size(), 16);
+    mesh->Update(true, 0);
+    EXPECT_EQ(mesh->Edges().size(), edgesOf(polygonsOf(*mesh), 4).size());
 }
 
 TEST(Mesh, noticesWhateverChangesItsPolygonsOrEdges)

@@ -3,6 +3,7 @@
 
 #include <orvane/base/classdesc.h>
 #include <orvane/base/log.h>
+#include <orvane/base/parallel.h>
 #include <orvane/base/stream.h>
 #include <orvane/geometry/geometry.h>
 #include <orvane/geometry/keptlocator.h>
@@ -14,6 +15,8 @@
 namespace orvane {
 
 namespace {
+
+const int LeastFaces = 20000; // of a thread
 
 // Logs it; answers false.
 bool refuse(const char *what, int index, int count)
@@ -112,40 +115,55 @@ bool Mesh::refuseVertex(int vertex) const
 
 void Mesh::RecomputeNormals(bool keepVertexNormals)
 {
-    const int perFace = CornersPerFace();
+    const qint64 faces = FaceCount();
+    const qint64 vertices = VertexCount();
+    const int threads = threadsFor(faces, LeastFaces);
     m_faceNormals.resize(FaceCount());
-    Vector *normal = m_faceNormals.data();
-    for (int slot = 0; slot < m_corners.size(); slot += perFace) {
+    Vector *faceNormals = m_faceNormals.data();
+    inParallel(threads, [=](int part) {
+        setFaceNormals(int(faces * part / threads), int(faces * (part + 1) / threads), faceNormals);
+    });
+    if (keepVertexNormals)
+        return;
+    m_normals.fill(Vector(), VertexCount());
+    Vector *normals = m_normals.data();
+    inParallel(threads, [=](int part) {
+        setVertexNormals(int(vertices * part / threads), int(vertices * (part + 1) / threads),
+                         normals);
+    });
+}
+
+void Mesh::setFaceNormals(int begin, int end, Vector *faceNormals) const
+{
+    for (int face = begin; face < end; ++face) {
+        const int slot = face * CornersPerFace();
         const Vector p0 = placeAt(slot);
         const Vector p1 = placeAt(slot + 1);
         const Vector p2 = placeAt(slot + 2);
         // The diagonals of a quad see all four corners, bent or not.
         const Vector area =
             IsQuads() ? (p2 - p0) & (placeAt(slot + 3) - p1) : (p1 - p0) & (p2 - p0);
-        *normal++ = Normalized(area);
+        faceNormals[face] = Normalized(area);
     }
-    if (keepVertexNormals)
-        return;
-    m_normals.fill(Vector(), VertexCount());
-    for (int face = 0; face < FaceCount(); ++face)
-        addCornerAngles(face);
-    for (Vector &vertexNormal : m_normals)
-        vertexNormal.Normalize();
 }
 
-void Mesh::addCornerAngles(int face)
+// Goes through all faces whatever the vertices are: each sum is made in the same order.
+void Mesh::setVertexNormals(int begin, int end, Vector *normals) const
 {
     const int corners = CornersPerFace();
-    const int first = face * corners;
-    for (int i = 0; i < corners; ++i) {
-        const int vertex = m_corners.at(first + i);
-        if (vertex >= VertexCount())
-            continue;
-        const Vector next = placeAt(first + (i + 1) % corners);
-        const Vector previous = placeAt(first + (i + corners - 1) % corners);
-        m_normals[vertex] +=
-            m_faceNormals.at(face) * cornerAngle(m_positions.at(vertex), next, previous);
+    for (int first = 0, face = 0; first < m_corners.size(); first += corners, ++face) {
+        for (int i = 0; i < corners; ++i) {
+            const int vertex = m_corners.at(first + i);
+            if (vertex < begin || vertex >= end)
+                continue;
+            const Vector next = placeAt(first + (i + 1 == corners ? 0 : i + 1));
+            const Vector previous = placeAt(first + (i == 0 ? corners : i) - 1);
+            normals[vertex] +=
+                m_faceNormals.at(face) * cornerAngle(m_positions.at(vertex), next, previous);
+        }
     }
+    for (int vertex = begin; vertex < end; ++vertex)
+        normals[vertex].Normalize();
 }
 
 void Mesh::Update(bool topology, int)
@@ -156,8 +174,17 @@ void Mesh::Update(bool topology, int)
     if (!topology || !m_facesChanged)
         return;
     m_polygons = polygonsOf(*this);
-    m_edges = edgesOf(m_polygons, VertexCount());
+    m_edgeLimit = VertexCount();
+    m_edgesFound = false;
     m_facesChanged = false;
+}
+
+const QVector<MeshEdge> &Mesh::Edges() const
+{
+    if (!m_edgesFound)
+        m_edges = edgesOf(m_polygons, m_edgeLimit);
+    m_edgesFound = true;
+    return m_edges;
 }
 
 void Mesh::SetChanged(bool changed)

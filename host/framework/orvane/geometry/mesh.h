@@ -51,7 +51,8 @@ public:
     //! As of the last Update, in the frame of the geometry.
     const AxisAlignedBoundingBox &Bounds() const { return m_bounds; }
     const PolygonList &Polygons() const { return m_polygons; }
-    const QVector<MeshEdge> &Edges() const { return m_edges; }
+    //! Found at the first asking, as many meshes are never asked for them.
+    const QVector<MeshEdge> &Edges() const;
     //! Are polygons and edges those of the faces as they are now?
     bool IsUpdated() const { return !m_facesChanged; }
 
@@ -101,7 +102,8 @@ private:
     bool refuseVertex(int vertex) const;
     Vector cornerPosition(FaceType type, int face, int corner) const;
     Vector placeAt(int slot) const { return m_positions.value(m_corners.at(slot)); }
-    void addCornerAngles(int face);
+    void setFaceNormals(int begin, int end, Vector *faceNormals) const;
+    void setVertexNormals(int begin, int end, Vector *normals) const;
     bool cornersInRange() const;
 
     QVector<Vector> m_positions;
@@ -110,7 +112,9 @@ private:
     QVector<UV> m_uvs;
     AxisAlignedBoundingBox m_bounds;
     PolygonList m_polygons;
-    QVector<MeshEdge> m_edges;
+    int m_edgeLimit = 0;              // vertices as of the last Update
+    mutable bool m_edgesFound = true; // of m_polygons
+    mutable QVector<MeshEdge> m_edges;
     mutable std::unique_ptr<KeptLocator> m_locator; // null until asked for
     Geometry *m_holder = nullptr;                   // owns this mesh
     bool m_changed = false;

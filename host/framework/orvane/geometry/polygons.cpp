@@ -82,17 +82,22 @@ QVector<MeshEdge> edgesOf(const PolygonList &polygons, int vertexCount)
     int *sides = upper.data();
     forEachSide([place, sides](int a, int b) { sides[place[a]++] = b; });
 
-    QVector<MeshEdge> edges;
-    edges.reserve(upper.size() / 2);
+    int edgeCount = 0;
     for (int a = 0; a < vertexCount; ++a) {
         int *begin = sides + start.at(a);
         int *end = sides + start.at(a + 1);
         std::sort(begin, end);
-        for (const int *side = begin; side != end; ++side) {
-            if (side != begin && *side == side[-1])
-                ++edges.last().polygons;
-            else
-                edges.append({a, *side, 1});
+        for (const int *side = begin; side != end; ++side)
+            edgeCount += side == begin || *side != side[-1];
+    }
+    QVector<MeshEdge> edges(edgeCount);
+    MeshEdge *edge = edges.data();
+    for (int a = 0; a < vertexCount; ++a) {
+        const int *end = sides + start.at(a + 1);
+        for (const int *side = sides + start.at(a); side != end; ++edge) {
+            *edge = {a, *side, 0};
+            for (; side != end && *side == edge->b; ++side)
+                ++edge->polygons;
         }
     }
     return edges;

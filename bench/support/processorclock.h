@@ -3,12 +3,12 @@
 
 #include <ctime>
 
-//! Splits the processor time of the calling thread into laps: what other programs take away from
-//! it on a busy machine does not count.
-class ThreadClock
+//! Splits the processor time of the program, all its threads, into laps: what other programs take
+//! away from it on a busy machine does not count.
+class ProcessorClock
 {
 public:
-    ThreadClock() : m_lastLap(now()) {}
+    ProcessorClock() : m_lastLap(now()) {}
 
     //! Seconds since the last lap, or since the clock was made.
     double lap()
@@ -22,7 +22,7 @@ private:
     static double now()
     {
         timespec time{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
         return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
     }
 
