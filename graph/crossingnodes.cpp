@@ -68,13 +68,12 @@ NodeSample sampleAt(const SegmentMeeting &meeting, SampledCurves &sampled)
 } // namespace
 
 // Each node is written to once, with all it has: there are too many to come back to.
-std::vector<IntersectionNode> nodesOfCrossings(const CrossingSearch &search,
-                                               const QList<OrvaneCurve *> &curves,
-                                               SampledCurves &sampled)
+NodeBlock nodesOfCrossings(const CrossingSearch &search, const QList<OrvaneCurve *> &curves,
+                           SampledCurves &sampled)
 {
     const QVector<Crossing> &crossings = search.crossings();
     const QVector<LinksOfNode> links = linksAlongCurves(crossings, sampled.curves());
-    std::vector<IntersectionNode> nodes;
+    NodeBlock nodes;
     nodes.reserve(std::size_t(crossings.size()));
     IntersectionNode *const first = nodes.data(); // of all, those to come too
     for (int i = 0; i < crossings.size(); ++i) {

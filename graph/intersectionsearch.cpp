@@ -30,7 +30,7 @@ void sampleCurves(SampledCurves &sampled, const QList<OrvaneCurve *> &curves, fl
 }
 
 // To the end of the list, and to the node store.
-void addNodes(std::vector<IntersectionNode> &&made, QList<IntersectionNode *> &nodes)
+void addNodes(NodeBlock &&made, QList<IntersectionNode *> &nodes)
 {
     nodes.reserve(nodes.size() + int(made.size()));
     for (IntersectionNode &node : made)

@@ -14,7 +14,7 @@ int NodeStore::nodeCount() const
 {
     std::size_t count = 0;
     for (const Run &run : m_runs) {
-        for (const std::vector<IntersectionNode> &nodes : run.nodes)
+        for (const NodeBlock &nodes : run.nodes)
             count += nodes.size();
     }
     return int(count);
@@ -29,7 +29,7 @@ void NodeStore::beginRun()
     m_runs.emplace_back();
 }
 
-void NodeStore::own(std::vector<IntersectionNode> &&nodes)
+void NodeStore::own(NodeBlock &&nodes)
 {
     if (m_runs.empty())
         beginRun();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graph/intersectionnode.h"
+#include "graph/nodeblock.h"
 
 #include <QList>
 
@@ -22,7 +22,7 @@ public:
     //! Frees the runs that nobody holds; nodes made from now on belong to a new run.
     void beginRun();
     //! The current run takes the nodes over; they stay where they are.
-    void own(std::vector<IntersectionNode> &&nodes);
+    void own(NodeBlock &&nodes);
     //! These are the seeds of the current run: a list with any of them stands for it from now on.
     void setSeeds(const QList<IntersectionNode *> &seeds);
 
@@ -34,7 +34,7 @@ public:
 private:
     struct Run
     {
-        std::vector<std::vector<IntersectionNode>> nodes; // as they were handed over
+        std::vector<NodeBlock> nodes; // as they were handed over
         QList<IntersectionNode *> seeds;
         int holders = 0;
     };

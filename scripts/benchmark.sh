@@ -54,6 +54,7 @@ run() {
 }
 
 turned=lattice30,lattice75
+ordinary=lattice,$turned,chords,strokes,scribble
 if [ "$quick" = yes ]; then
     run stages --sizes 2000,5000,10000 --json "$results/stages.json"
     run memory --sizes 10000 --json "$results/memory.json"
@@ -61,7 +62,9 @@ if [ "$quick" = yes ]; then
 else
     run stages --sizes 2000,10000,50000,200000,1000000 --json "$results/stages.json"
     run memory --sizes 10000,100000,1000000 --json "$results/memory.json"
-    run peers --sizes 10000,50000,100000 --peers geos,cgal,boost --pairs 7 --limit 120 \
+    run peers --sizes 10000,50000 --peers geos,cgal,boost --pairs 7 --limit 120 \
+        --json "$results/peers.json"
+    run peers --sizes 1000000 --shapes "$ordinary" --peers geos,cgal,boost --pairs 3 --limit 300 \
         --json "$results/peers.json"
     run peers --sizes 50000 --shapes "$turned" --peers pinned --pairs 3 \
         --json "$results/peers.json"

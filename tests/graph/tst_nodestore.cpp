@@ -16,7 +16,7 @@ protected:
     // Hands so many nodes over to the current run.
     QList<IntersectionNode *> addNodes(int count)
     {
-        std::vector<IntersectionNode> nodes{std::size_t(count)};
+        NodeBlock nodes{std::size_t(count)};
         QList<IntersectionNode *> all;
         for (IntersectionNode &node : nodes)
             all.append(&node);
@@ -49,6 +49,22 @@ TEST_F(NodeStoreTest, nodesStayWhereTheyAreWhileRunsComeAndGo)
     EXPECT_EQ(seeds.first()->vertexIndex, 7);
     EXPECT_EQ(store.nodeCount(), 3 + 19 + 1);
     store.release(seeds);
+}
+
+// So many are allocated in another way than a few.
+TEST_F(NodeStoreTest, aRunOfManyNodesIsKeptAndFreedLikeAnyOther)
+{
+    const QList<IntersectionNode *> nodes = addNodes(200000);
+    store.setSeeds(nodes.mid(0, 1));
+    store.hold(nodes.mid(0, 1));
+    for (int i = 0; i < nodes.size(); ++i)
+        nodes[i]->vertexIndex = i;
+    newRun(1);
+    for (int i = 0; i < nodes.size(); ++i)
+        ASSERT_EQ(nodes[i]->vertexIndex, i);
+    store.release(nodes.mid(0, 1));
+    store.beginRun();
+    EXPECT_EQ(store.nodeCount(), 0);
 }
 
 TEST_F(NodeStoreTest, aRunThatNobodyHoldsIsFreedWhenTheNextOneBegins)

@@ -22,7 +22,7 @@ protected:
     QList<IntersectionNode *> newRun()
     {
         store.beginRun();
-        std::vector<IntersectionNode> nodes(1);
+        NodeBlock nodes(1);
         IntersectionNode *node = nodes.data();
         store.own(std::move(nodes));
         store.setSeeds({node});
