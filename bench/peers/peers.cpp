@@ -5,6 +5,7 @@
 #include "bench/peers/comparison.h"
 #include "bench/support/benchoptions.h"
 #include "bench/support/benchscene.h"
+#include "bench/support/keptmemory.h"
 #include "bench/support/table.h"
 #include "graph/curvecollection.h"
 #include "graph/intersectionnode.h"
@@ -150,6 +151,7 @@ PeerInput inputOf(const BenchScene &scene, const QString &shape)
 
 int main(int argc, char **argv)
 {
+    keepFreedMemory();
     QCoreApplication application(argc, argv);
     const BenchOptions options(
         application,

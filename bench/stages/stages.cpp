@@ -6,6 +6,7 @@
 #include "bench/support/benchoptions.h"
 #include "bench/support/benchscene.h"
 #include "bench/support/growth.h"
+#include "bench/support/keptmemory.h"
 #include "bench/support/table.h"
 
 #include <orvane/geometry/mesh.h>
@@ -85,6 +86,7 @@ public:
             state.SkipWithError("left out: the models folder is not at hand (QUILLMESH_MODELS)");
             return;
         }
+        warmUp();
         std::vector<StageRun> runs;
         for (auto _ : state) {
             runs.push_back(runStages(BenchSettings()));
@@ -120,10 +122,19 @@ private:
             return;
         m_shape = shape;
         m_size = size;
+        m_isWarm = false;
         m_scene.reset();
         m_scene = BenchScene::modelNets().contains(shape)
                       ? std::make_unique<BenchScene>(shape)
                       : std::make_unique<BenchScene>(drawingOf(shape, size));
+    }
+
+    // Memory that a run takes for the first time comes slowly.
+    void warmUp()
+    {
+        if (!m_isWarm)
+            runStages(BenchSettings());
+        m_isWarm = true;
     }
 
     double m_limit;
@@ -131,6 +142,7 @@ private:
     std::unique_ptr<BenchScene> m_scene; // kept, because a benchmark is entered several times
     QString m_shape;
     int m_size = 0;
+    bool m_isWarm = false; // has the scene been run?
 };
 
 void registerAll(Measurements &measurements, const BenchOptions &options)
@@ -251,6 +263,7 @@ QVector<QVector<char *>> split(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    keepFreedMemory();
     QVector<QVector<char *>> words = split(argc, argv);
     int ownCount = words[0].size();
     int otherCount = words[1].size();
