@@ -32,6 +32,7 @@ BuiltPiece tracePiece(IntersectionNode *start, int maxEdges, MeshBuilder &builde
     builder.normals = edges.graph().normals;
     traceFaces(edges, builder, maxEdges);
     edges.writeMarks();
+    builder.faces.squeeze(); // the mesh is made beside them
 
     BuiltPiece piece;
     piece.nodes = edges.graph().nodes.size();

@@ -42,6 +42,12 @@ public:
         m_corners += face;
         m_ends.append(m_corners.size());
     }
+    //! Gives back the room for more.
+    void squeeze()
+    {
+        m_corners.squeeze();
+        m_ends.squeeze();
+    }
     Face operator[](int i) const { return Face(corners(i), corners(i) + cornerCount(i)); }
     //! Without a copy; good until the list changes.
     const int *corners(int i) const { return m_corners.constData() + start(i); }

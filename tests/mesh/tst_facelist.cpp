@@ -54,3 +54,14 @@ TEST(FaceList, aCopyIsAListOfItsOwn)
     EXPECT_EQ(copy.size(), 1);
     EXPECT_EQ(faces[1], QVector<int>({2, 1, 3}));
 }
+
+TEST(FaceList, givingBackRoomChangesNoFace)
+{
+    FaceList faces(QList<QVector<int>>{{0, 1, 2}, {2, 1, 3, 4}, {7, 8, 9}});
+    const FaceList before = faces;
+    faces.squeeze();
+    EXPECT_EQ(faces, before);
+    faces.append({4, 5, 6});
+    EXPECT_EQ(faces.size(), 4);
+    EXPECT_EQ(faces[3], (QVector<int>{4, 5, 6}));
+}

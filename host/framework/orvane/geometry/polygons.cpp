@@ -37,9 +37,12 @@ PolygonList polygonsOf(const Topology &topology)
     const QVector<int> &corners = topology.Corners();
     const int perFace = topology.CornersPerFace();
     const int faceCount = topology.FaceCount();
-    list.corners.reserve(corners.size());
-    list.firstFace.reserve(faceCount);
-    list.firstCorner.reserve(faceCount + 1);
+    int fakes = 0;
+    for (int face = 0; face < faceCount; ++face)
+        fakes += topology.IsFakeTriangle(face) ? 1 : 0;
+    list.corners.reserve(corners.size() - 2 * fakes);
+    list.firstFace.reserve(faceCount - fakes);
+    list.firstCorner.reserve(faceCount - fakes + 1);
     for (int face = 0; face < faceCount; ++face) {
         const bool fake = topology.IsFakeTriangle(face);
         if (!fake) {
