@@ -12,7 +12,6 @@ public:
     //! sampleCounts: by curve; parameters are between 0 and it.
     CurveRecords(const QVector<int> &sampleCounts, const QVector<Crossing> &crossings);
 
-    int curveCount() const { return m_firstCells.size() - 1; }
     int size(int curve) const { return firstStop(curve + 1) - firstStop(curve); }
     //! The index of a curve's i-th crossing; one of the curve with itself is there twice.
     int crossing(int curve, int i) const { return m_stops[firstStop(curve) + i].crossing; }

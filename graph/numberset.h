@@ -10,17 +10,19 @@
 class NumberSet
 {
 public:
-    //! Numbers are below size. Forgets all that are in it.
-    void resize(int size)
+    //! Numbers are from the first to the last. Forgets all that are in it.
+    void setRange(int first, int last)
     {
-        m_bits.fill(0, size / WordBits + 1);
+        m_first = first;
+        m_bits.fill(0, (last - first) / WordBits + 1);
         m_words.fill(0, m_bits.size() / WordBits + 1);
     }
 
     void add(int number)
     {
-        const int word = number / WordBits;
-        m_bits[word] |= bit(number);
+        const int place = number - m_first;
+        const int word = place / WordBits;
+        m_bits[word] |= bit(place);
         m_words[word / WordBits] |= bit(word);
     }
 
@@ -29,9 +31,9 @@ public:
     {
         for (int i = 0; i < m_words.size(); ++i) {
             takeBits(m_words[i], i * WordBits, [&](int word) {
-                takeBits(m_bits[word], word * WordBits, [&](int number) {
-                    if (number >= first)
-                        numbers.append(number);
+                takeBits(m_bits[word], word * WordBits, [&](int place) {
+                    if (m_first + place >= first)
+                        numbers.append(m_first + place);
                 });
             });
         }
@@ -40,7 +42,7 @@ public:
 private:
     static const int WordBits = 64;
 
-    static quint64 bit(int number) { return quint64(1) << (number % WordBits); }
+    static quint64 bit(int place) { return quint64(1) << (place % WordBits); }
 
     template <typename Visitor>
     static void takeBits(quint64 &bits, int first, Visitor visit)
@@ -49,6 +51,7 @@ private:
             visit(first + int(qCountTrailingZeroBits(bits)));
     }
 
-    QVector<quint64> m_bits;  // by number
+    int m_first = 0;
+    QVector<quint64> m_bits;  // by number, from the first on
     QVector<quint64> m_words; // by word of those: is there a bit in it?
 };

@@ -57,7 +57,7 @@ void SortedBoxes::assign(const Boxes &boxes, const QVector<int> &numbers)
     m_numbers.resize(numbers.size());
     std::copy(numbers.cbegin(), numbers.cend(), m_numbers.begin());
     m_last = numbers.isEmpty() ? -1 : numbers.last();
-    m_found.resize(m_last + 1);
+    m_found.setRange(numbers.isEmpty() ? 0 : numbers.first(), m_last);
     // As many groups in a strip as there are strips.
     m_groupsPerStrip = 1 + int(std::sqrt(m_numbers.size() / GroupSize));
     sort(boxes);

@@ -36,7 +36,6 @@ public:
         return false;
     }
 
-    int wordCount() const { return int(m_words.size()); }
     quint64 word(int i) const { return m_words[size_t(i)]; }
 
 private:
